@@ -1,0 +1,14 @@
+#pragma once
+
+#include "core/record/AbilityRecord.h"
+
+#include <vector>
+
+namespace tarnic {
+
+// The 160 abilities in catalogue order, built once on first use and never changed.
+// Index i is row i + 1 of the ability table; indices 0 to 6 are the general commands and
+// Repair, which have no owner.
+const std::vector<AbilityRecord>& all_data();
+
+} // namespace tarnic

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "core/platform/AccessibilityTrust.h"
+#include "core/platform/FrontmostApplication.h"
+#include "core/platform/KeyObserver.h"
+#include "core/platform/KeyPoster.h"
+
+#include <memory>
+
+namespace tarnic {
+
+// The platform facilities the program uses, chosen once at start-up (the X11 backend, or the
+// recording fakes in tests).
+struct Platform {
+    std::unique_ptr<KeyObserver> keyObserver;
+    std::unique_ptr<KeyPoster> keyPoster;
+    std::unique_ptr<FrontmostApplication> frontmostApplication;
+    std::unique_ptr<AccessibilityTrust> accessibilityTrust;
+};
+
+} // namespace tarnic
