@@ -37,9 +37,9 @@ TEST(AbilityRecord, MissingOwnerIsNotAnEmptyOwner) {
 }
 
 TEST(AbilityRecord, FillPutsTheKeyAtEveryMarkerOfEverySection) {
-    AbilityRecord record{{for_edit, std::string("// X\n[A1]\nTip=t\nHotkey=") + mark +
-                                        "\nUnhotkey=" + mark + "\n// X\n[A2]\nTip=t\nHotkey=" +
-                                        mark + "\nUnhotkey=" + mark}};
+    AbilityRecord record{
+        {for_edit, std::string("// X\n[A1]\nTip=t\nHotkey=") + mark + "\nUnhotkey=" + mark +
+                       "\n// X\n[A2]\nTip=t\nHotkey=" + mark + "\nUnhotkey=" + mark}};
     fillTemplate(record, "Q");
     EXPECT_EQ(record[new_edit], "// X\n[A1]\nTip=t\nHotkey=Q\nUnhotkey=Q\n// X\n[A2]\nTip=t\n"
                                 "Hotkey=Q\nUnhotkey=Q");

@@ -1,0 +1,77 @@
+#include "core/remapper/InventoryRemapper.h"
+
+#include "core/fatal/Fatal.h"
+#include "core/remapper/SlotKeys.h"
+#include "core/vocabulary/KeyCodes.h"
+
+#include <string>
+
+namespace tarnic {
+
+namespace {
+// A stored binding is trusted; one that was cut short outside the program cannot be read.
+std::int64_t element(const InventoryModel& model, std::size_t index) {
+    if (index >= model.size()) {
+        fatalError(kIndexOutOfRange, "inventory binding has " + std::to_string(model.size()) +
+                                         " elements, element " + std::to_string(index) +
+                                         " was read");
+    }
+    return model[index];
+}
+} // namespace
+
+InventoryRemapper::InventoryRemapper(KeyPoster& poster) : poster_(poster) {}
+
+void InventoryRemapper::keyDown(int keyCode) {
+    // Every binding is tested, so one press may tap several slots, in slot order.
+    for (const InventoryModel& model : inventoryModels) {
+        action(model, keyCode);
+    }
+}
+
+void InventoryRemapper::flagsChanged(int keyCode) {
+    // A parity bit, not a reading of the keyboard: every press and every release of any
+    // modifier flips it.
+    flagHold = keyCode;
+    isFlag = !isFlag;
+}
+
+void InventoryRemapper::action(const InventoryModel& model, int keyPrss) {
+    if (model.empty()) {
+        return;
+    }
+    // With a modifier: the last modifier event must have been that very key (so the right
+    // Shift, 60, never stands for a left-Shift binding, 56).
+    if (isFlag && flagHold == element(model, 1) && keyPrss == element(model, 2)) {
+        inventoryPress(static_cast<int>(element(model, 0)));
+    }
+    // Without a modifier: fires on its key whatever is held. Made independently of the first.
+    if (keyPrss == element(model, 2) && element(model, 1) == 0) {
+        inventoryPress(static_cast<int>(element(model, 0)));
+    }
+}
+
+void InventoryRemapper::eventWithTimer(const FrontmostApplication& frontmost) {
+    const std::optional<std::string> identifier = frontmost.bundleIdentifier();
+    isWarRun = identifier.has_value() && *identifier == war3ID;
+}
+
+void InventoryRemapper::inventoryPress(int slot) {
+    const std::optional<std::uint16_t> key = keypadKeyOfSlot(slot);
+    if (!key) {
+        return;
+    }
+    // One complete tap, whatever the trigger key does next.
+    keyboardKeyDown(*key);
+    keyboardKeyUp(*key);
+}
+
+void InventoryRemapper::keyboardKeyDown(std::uint16_t key) {
+    poster_.postKeyDown(key);
+}
+
+void InventoryRemapper::keyboardKeyUp(std::uint16_t key) {
+    poster_.postKeyUp(key);
+}
+
+} // namespace tarnic
