@@ -1,0 +1,42 @@
+#pragma once
+
+#include "core/record/AbilityRecord.h"
+#include "core/remapper/InventoryRemapper.h"
+
+#include <QSettings>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace tarnic {
+
+// The XML property-list format for QSettings, registered on first use. The file is a plain
+// property list a player can read in a text editor, and keeps the value types (string, integer,
+// array, dictionary) exactly across a round trip.
+QSettings::Format plistSettingsFormat();
+
+// The application's store: "Tarnic Pro.plist" (or similar) in the user's XDG config folder.
+// A store file that cannot be parsed at all is copied aside first (and said so on standard
+// error), then the store starts empty, so the next write cannot destroy what was there.
+std::unique_ptr<QSettings> openUserDefaults();
+
+// Typed access to the keys the program stores: "mainDic" and "inventoryModel1".."6".
+// A value of the wrong type is a fatal error naming the key, the type expected and the type found.
+class UserDefaults {
+public:
+    explicit UserDefaults(QSettings& settings);
+
+    std::optional<std::vector<AbilityRecord>> mainDic() const;
+    void setMainDic(const std::vector<AbilityRecord>& list);
+
+    // slot is 1 to 6.
+    std::optional<InventoryModel> inventoryModel(int slot) const;
+    void setInventoryModel(int slot, const InventoryModel& model);
+    void removeInventoryModel(int slot);
+
+private:
+    QSettings& settings_;
+};
+
+} // namespace tarnic
