@@ -20,11 +20,12 @@ std::int64_t element(const InventoryModel& model, std::size_t index) {
 }
 } // namespace
 
-InventoryRemapper::InventoryRemapper(KeyPoster& poster) : poster_(poster) {}
+InventoryRemapper::InventoryRemapper(const Models& inventoryModels, KeyPoster& poster)
+    : inventoryModels_(inventoryModels), poster_(poster) {}
 
 void InventoryRemapper::keyDown(int keyCode) {
     // Every binding is tested, so one press may tap several slots, in slot order.
-    for (const InventoryModel& model : inventoryModels) {
+    for (const InventoryModel& model : inventoryModels_) {
         action(model, keyCode);
     }
 }

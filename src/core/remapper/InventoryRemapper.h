@@ -18,10 +18,11 @@ using InventoryModel = std::vector<std::int64_t>;
 // poster types for it.
 class InventoryRemapper {
 public:
-    explicit InventoryRemapper(KeyPoster& poster);
+    using Models = std::array<InventoryModel, 6>;
 
-    // inventoryModel1 .. inventoryModel6, read afresh on every key press.
-    std::array<InventoryModel, 6> inventoryModels;
+    // `inventoryModels` are inventoryModel1 .. inventoryModel6, owned by the editor's controller
+    // and read afresh on every key press, so an edit takes effect on the next press.
+    InventoryRemapper(const Models& inventoryModels, KeyPoster& poster);
 
     // Key code of the most recent modifier change, and a parity bit flipped by every change.
     std::int64_t flagHold = -1;
@@ -39,6 +40,7 @@ public:
     void keyboardKeyUp(std::uint16_t key);
 
 private:
+    const Models& inventoryModels_;
     KeyPoster& poster_;
 };
 
