@@ -162,6 +162,11 @@ TEST(IrregularRecords, KaboomCommentHasThreeSlashesOnlyInTheDefault) {
     EXPECT_EQ(countOf(kaboom_().at(def), "//"), 1u);
     EXPECT_TRUE(filled(kaboom_(), "B").at(new_edit).starts_with("//Kaboom\n"));
     EXPECT_EQ(filled(kaboom_(), "B").at(new_edit), kaboom_().at(def).substr(1));
+    int threeSlashes = 0;
+    for (const AbilityRecord& record : all_data()) {
+        threeSlashes += record.at(def).find("///") != std::string::npos ? 1 : 0;
+    }
+    EXPECT_EQ(threeSlashes, 1);
 }
 
 TEST(IrregularRecords, RepairRestoreTipLacksItsClosingColourCode) {
