@@ -2,6 +2,8 @@
 
 #include "shell/PlistSamples.h"
 
+#include <QFile>
+
 #include <gtest/gtest.h>
 
 namespace tarnic {
@@ -62,6 +64,12 @@ TEST(VersionSupport, TruncatedBinaryDictionaryIsRejected) {
     const QByteArray binary = test::binaryDictionary();
     EXPECT_FALSE(isVersionSupportDictionary(binary.left(binary.size() / 2)));
     EXPECT_FALSE(isVersionSupportDictionary("bplist00"));
+}
+
+TEST(VersionSupport, TheFileTheSiteShipsIsAccepted) {
+    QFile shipped(TARNIC_SITE_DIR "/tn11.plist");
+    ASSERT_TRUE(shipped.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(isVersionSupportDictionary(shipped.readAll()));
 }
 
 } // namespace
