@@ -3,6 +3,7 @@
 #include "shell/BlockingHttpGet.h"
 #include "shell/LoopbackHttpServer.h"
 #include "shell/PlistSamples.h"
+#include "shell/SiteAddress.h"
 
 #include "shell/QtPrinting.h"
 
@@ -35,6 +36,12 @@ TEST(VersionSupportUrl, IsTheFileDirectlyUnderTheSiteRoot) {
               "http://127.0.0.1:8765/tn11.plist");
     EXPECT_EQ(versionSupportUrl("http://tarnic.example/").toString(),
               "http://tarnic.example/tn11.plist");
+}
+
+TEST(VersionSupportUrl, BuiltInSiteIsTheOneTheBuildNames) {
+    EXPECT_EQ(siteBaseUrl(), TARNIC_SITE_URL);
+    EXPECT_EQ(versionSupportUrl(siteBaseUrl()).path(), "/tn11.plist");
+    EXPECT_EQ(versionSupportUrl(siteBaseUrl()).scheme(), "http");
 }
 
 TEST(VersionSupportUrl, SiteTextThatIsNoUrlGivesNone) {
