@@ -89,8 +89,12 @@ X11KeyObserver::~X11KeyObserver() {
         Display* controlDisplay = control_->display();
         XRecordDisableContext(controlDisplay, context_);
         XRecordFreeContext(controlDisplay, context_);
-        XFlush(controlDisplay);
+        XSync(controlDisplay, False);
     }
+    // Closing reads what the recording still sent (its end-of-data reply at least) and hands it
+    // to the callback, which must find the router still there: close before the members go.
+    closing_ = true;
+    recordConnection_.reset();
 }
 
 void X11KeyObserver::addKeyDownMonitor(Handler handler) {
@@ -108,7 +112,9 @@ void X11KeyObserver::readReplies() {
 
 void RecordCallback::receive(XPointer closure, XRecordInterceptData* intercepted) {
     auto* self = reinterpret_cast<X11KeyObserver*>(closure);
-    if (intercepted->category == XRecordStartOfData) {
+    if (self->closing_) {
+        // Keys recorded before the recording stopped are no one's business any more.
+    } else if (intercepted->category == XRecordStartOfData) {
         self->started_ = true;
     } else if (intercepted->category == XRecordFromServer && intercepted->data != nullptr &&
                intercepted->data_len * 4 >= sizeof(xEvent)) {

@@ -47,6 +47,7 @@ private:
     unsigned long context_ = 0;
     bool recording_ = false;
     bool started_ = false;
+    bool closing_ = false;
     std::unique_ptr<QSocketNotifier> notifier_;
 };
 
