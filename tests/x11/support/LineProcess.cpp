@@ -28,7 +28,12 @@ void LineProcess::readAvailable() {
     partial_ += process_.readAllStandardOutput();
     qsizetype newline = 0;
     while ((newline = partial_.indexOf('\n')) >= 0) {
-        lines_.append(QString::fromUtf8(partial_.left(newline)));
+        // Windows programs run by Wine end their lines with CR LF.
+        QByteArray line = partial_.left(newline);
+        if (line.endsWith('\r')) {
+            line.chop(1);
+        }
+        lines_.append(QString::fromUtf8(line));
         partial_.remove(0, newline + 1);
     }
 }

@@ -6,6 +6,8 @@
 #include <X11/extensions/XTest.h>
 #include <X11/keysym.h>
 
+#include <X11/Xutil.h>
+
 #include <thread>
 
 namespace tarnic::testing {
@@ -32,6 +34,52 @@ void XTestDriver::release(unsigned xKeycode) {
 void XTestDriver::tap(unsigned xKeycode) {
     press(xKeycode);
     release(xKeycode);
+}
+
+namespace {
+
+Window findWindowOfClass(Display* display, Window window, const QString& windowClass) {
+    XClassHint hint{};
+    if (XGetClassHint(display, window, &hint) != 0) {
+        const bool match =
+            hint.res_class != nullptr &&
+            QString::fromLocal8Bit(hint.res_class).compare(windowClass, Qt::CaseInsensitive) == 0;
+        XFree(hint.res_name);
+        XFree(hint.res_class);
+        XWindowAttributes attributes{};
+        if (match && XGetWindowAttributes(display, window, &attributes) != 0 &&
+            attributes.map_state == IsViewable) {
+            return window;
+        }
+    }
+    Window root = 0;
+    Window parent = 0;
+    Window* children = nullptr;
+    unsigned count = 0;
+    Window found = 0;
+    if (XQueryTree(display, window, &root, &parent, &children, &count) != 0) {
+        for (unsigned i = 0; i < count && found == 0; ++i) {
+            found = findWindowOfClass(display, children[i], windowClass);
+        }
+        if (children != nullptr) {
+            XFree(children);
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+unsigned long XTestDriver::waitForWindowOfClass(const QString& windowClass,
+                                                std::chrono::milliseconds timeout) {
+    const auto deadline = std::chrono::steady_clock::now() + timeout;
+    for (;;) {
+        const Window found = findWindowOfClass(display_, DefaultRootWindow(display_), windowClass);
+        if (found != 0 || std::chrono::steady_clock::now() >= deadline) {
+            return found;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    }
 }
 
 unsigned long XTestDriver::inputFocus() {

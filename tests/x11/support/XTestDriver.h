@@ -26,6 +26,10 @@ public:
     // input focus directly; then waits, bounded, until the window has the focus.
     bool focus(unsigned long window, std::chrono::milliseconds timeout);
     unsigned long inputFocus();
+    // A mapped window whose WM_CLASS class is `windowClass` (ignoring case), waiting for it up
+    // to `timeout`; 0 if none shows up.
+    unsigned long waitForWindowOfClass(const QString& windowClass,
+                                       std::chrono::milliseconds timeout);
 
     bool numLockOn();
     void setNumLock(bool on);
