@@ -76,8 +76,9 @@ void ratioRow(const char* name, const Percentiles& a, const Percentiles& b) {
                 a.max / b.max);
 }
 
-// Types `count` taps of the trigger, `spacingMs` apart; returns the send times.
-std::vector<long long> type(XTestDriver& driver, int count, int spacingMs) {
+// Types `count` taps of the trigger, `spacingMs` apart; returns the send times. Reads the
+// client's log between taps, so that the client never waits for a full pipe.
+std::vector<long long> type(XTestDriver& driver, LineProcess& client, int count, int spacingMs) {
     std::vector<long long> sent;
     sent.reserve(static_cast<std::size_t>(count));
     const long long start = now() + 20000000LL;
@@ -85,6 +86,7 @@ std::vector<long long> type(XTestDriver& driver, int count, int spacingMs) {
         sleepUntil(start + static_cast<long long>(i) * spacingMs * 1000000LL);
         sent.push_back(now());
         driver.tap(kTrigger);
+        client.lines();
     }
     return sent;
 }
@@ -200,16 +202,16 @@ int main(int argc, char** argv) {
         return 1;
     }
     driver.focus(clientWindow, 5s);
-    type(driver, 20, spacingMs); // warm-up
+    type(driver, client, 20, spacingMs); // warm-up
     waitForKeypadReleases(client, 0, 20, 10s);
 
     int from = client.lines().size();
-    const std::vector<long long> sent = type(driver, presses, spacingMs);
+    const std::vector<long long> sent = type(driver, client, presses, spacingMs);
     const bool allArrived = waitForKeypadReleases(client, from, presses, 60s);
     const Received ours = collect(client, from);
 
     from = client.lines().size();
-    type(driver, longPresses, longSpacingMs);
+    type(driver, client, longPresses, longSpacingMs);
     const bool longArrived = waitForKeypadReleases(client, from, longPresses, 300s);
     const Received longRun = collect(client, from);
     harness.stop();
@@ -237,7 +239,7 @@ int main(int argc, char** argv) {
     if (peerReady) {
         waitForKeypadReleases(client, from, 50, 10s); // let stragglers of the tries arrive
         from = client.lines().size();
-        peerSent = type(driver, peerPresses, peerSpacingMs);
+        peerSent = type(driver, client, peerPresses, peerSpacingMs);
         peerArrived = waitForKeypadReleases(client, from, peerPresses, 120s);
         peerReceived = collect(client, from);
     }
@@ -267,7 +269,9 @@ int main(int argc, char** argv) {
     std::printf("\npeer (xbindkeys + xdotool key KP_7): %d presses %d ms apart, %zu keypad taps "
                 "received%s\n",
                 peerPresses, peerSpacingMs, peerReceived.keypads.size(),
-                !peerReady ? " (PEER NEVER ANSWERED)" : peerArrived ? "" : " (SOME MISSING)");
+                !peerReady    ? " (PEER NEVER ANSWERED)"
+                : peerArrived ? ""
+                              : " (SOME MISSING)");
     const Percentiles peerSentToKeypad = percentiles(differences(peerReceived.keypads, peerSent));
     std::printf("| %-44s | %10s | %10s | %10s |\n", "measure", "p50", "p99", "max");
     std::printf("|%s|%s|%s|%s|\n", std::string(46, '-').c_str(), std::string(12, '-').c_str(),

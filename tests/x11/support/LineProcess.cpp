@@ -25,6 +25,10 @@ void LineProcess::stop() {
 }
 
 void LineProcess::readAvailable() {
+    // Takes what the pipe holds now; without it the child could fill the pipe and stall.
+    if (process_.state() == QProcess::Running) {
+        process_.waitForReadyRead(0);
+    }
     partial_ += process_.readAllStandardOutput();
     qsizetype newline = 0;
     while ((newline = partial_.indexOf('\n')) >= 0) {
