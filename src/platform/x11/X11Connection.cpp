@@ -1,0 +1,70 @@
+#include "platform/x11/X11Connection.h"
+
+#include <X11/Xlib.h>
+
+#include <map>
+#include <mutex>
+
+namespace tarnic::x11 {
+
+namespace {
+
+// Xlib has one error handler per process. Ours counts the errors of our own connections and
+// passes any other connection's errors to the handler that was there before (Qt installs one of
+// its own for its connection).
+std::mutex gMutex;
+std::map<Display*, unsigned long> gErrorCounts;
+XErrorHandler gPreviousHandler = nullptr;
+bool gHandlerInstalled = false;
+
+int countError(Display* display, XErrorEvent* event) {
+    {
+        std::lock_guard lock(gMutex);
+        const auto it = gErrorCounts.find(display);
+        if (it != gErrorCounts.end()) {
+            ++it->second;
+            return 0;
+        }
+    }
+    return gPreviousHandler ? gPreviousHandler(display, event) : 0;
+}
+
+} // namespace
+
+std::shared_ptr<X11Connection> X11Connection::open(const char* displayName) {
+    Display* display = XOpenDisplay(displayName);
+    if (display == nullptr) {
+        return nullptr;
+    }
+    {
+        std::lock_guard lock(gMutex);
+        gErrorCounts[display] = 0;
+        if (!gHandlerInstalled) {
+            gPreviousHandler = XSetErrorHandler(countError);
+            gHandlerInstalled = true;
+        }
+    }
+    return std::shared_ptr<X11Connection>(new X11Connection(display));
+}
+
+X11Connection::X11Connection(_XDisplay* display) : display_(display) {}
+
+X11Connection::~X11Connection() {
+    XCloseDisplay(display_);
+    std::lock_guard lock(gMutex);
+    gErrorCounts.erase(display_);
+}
+
+unsigned long X11Connection::errorCount() const {
+    std::lock_guard lock(gMutex);
+    const auto it = gErrorCounts.find(display_);
+    return it == gErrorCounts.end() ? 0 : it->second;
+}
+
+bool X11Connection::syncSucceeded() {
+    const unsigned long before = errorCount();
+    XSync(display_, False);
+    return errorCount() == before;
+}
+
+} // namespace tarnic::x11

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+
+struct _XDisplay;
+
+namespace tarnic::x11 {
+
+// One Xlib connection to the X server, closed when the last owner lets go. X protocol errors on
+// our connections are counted instead of ending the process (Xlib's default): a window can vanish
+// between two requests, and that is no reason to stop.
+class X11Connection {
+public:
+    // Null when the display cannot be opened. `displayName` null means $DISPLAY.
+    static std::shared_ptr<X11Connection> open(const char* displayName);
+
+    ~X11Connection();
+    X11Connection(const X11Connection&) = delete;
+    X11Connection& operator=(const X11Connection&) = delete;
+
+    _XDisplay* display() const { return display_; }
+    // X protocol errors seen on this connection so far.
+    unsigned long errorCount() const;
+    // Waits until the server has handled every request sent so far; false when any of them
+    // failed.
+    bool syncSucceeded();
+
+private:
+    explicit X11Connection(_XDisplay* display);
+
+    _XDisplay* display_;
+};
+
+} // namespace tarnic::x11

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "core/platform/FrontmostApplication.h"
+
+#include <memory>
+
+namespace tarnic::x11 {
+
+class X11Connection;
+
+// The frontmost application as the window manager names it: the window in _NET_ACTIVE_WINDOW on
+// the root window, identified by the class of its WM_CLASS (see identifierOfWindowClass). None
+// without a window manager that sets the property, when no window is active, or when the active
+// window has no class.
+class X11FrontmostApplication : public FrontmostApplication {
+public:
+    explicit X11FrontmostApplication(std::shared_ptr<X11Connection> connection);
+
+    std::optional<std::string> bundleIdentifier() const override;
+
+private:
+    std::shared_ptr<X11Connection> connection_;
+    unsigned long activeWindowAtom_ = 0;
+};
+
+} // namespace tarnic::x11

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "core/platform/KeyObserver.h"
+#include "platform/x11/X11KeyRouter.h"
+
+#include <functional>
+#include <memory>
+
+class QSocketNotifier;
+struct _XDisplay;
+
+namespace tarnic::x11 {
+
+class X11Connection;
+
+// Observes every key the X server receives, through the RECORD extension, without taking it
+// from the window it goes to. The recording runs on a connection of its own that carries no
+// other request once recording has begun (the server would not answer them); its replies are
+// read on the main thread whenever its socket has data, so the handlers run on the main thread,
+// in the order the keys were pressed. Keys this program posts itself are recorded too: they are
+// keypad keys, which no binding can name.
+class X11KeyObserver : public KeyObserver {
+public:
+    // Sets up the recording on `control` (the main connection) and starts it on a new connection
+    // to `displayName`, then waits briefly until the server confirms it. Needs a running
+    // QCoreApplication. The observer exists even when recording could not start; it then
+    // reports nothing and isRecording() is false.
+    X11KeyObserver(std::shared_ptr<X11Connection> control, const char* displayName,
+                   std::function<bool()> ownWindowActive);
+    ~X11KeyObserver() override;
+    X11KeyObserver(const X11KeyObserver&) = delete;
+    X11KeyObserver& operator=(const X11KeyObserver&) = delete;
+
+    void addKeyDownMonitor(Handler handler) override;
+    void addFlagsChangedMonitor(Handler handler) override;
+
+    // Whether the server offers RECORD and the recording context was made and enabled.
+    bool isRecording() const { return recording_; }
+
+private:
+    friend struct RecordCallback;
+    void readReplies();
+
+    std::shared_ptr<X11Connection> control_;
+    std::shared_ptr<X11Connection> recordConnection_;
+    X11KeyRouter router_;
+    unsigned long context_ = 0;
+    bool recording_ = false;
+    bool started_ = false;
+    bool closing_ = false;
+    std::unique_ptr<QSocketNotifier> notifier_;
+};
+
+} // namespace tarnic::x11

@@ -1,0 +1,50 @@
+#include "platform/x11/X11KeyRouter.h"
+
+#include "platform/x11/X11KeyCodes.h"
+
+#include <optional>
+
+namespace tarnic::x11 {
+
+X11KeyRouter::X11KeyRouter(std::function<bool()> ownWindowActive)
+    : ownWindowActive_(std::move(ownWindowActive)) {}
+
+void X11KeyRouter::addKeyDownHandler(Handler handler) {
+    keyDownHandlers_.push_back(std::move(handler));
+}
+
+void X11KeyRouter::addFlagsChangedHandler(Handler handler) {
+    flagsChangedHandlers_.push_back(std::move(handler));
+}
+
+void X11KeyRouter::keyPressed(unsigned xKeycode) {
+    const std::optional<int> macKeyCode = macKeyCodeOfXKeycode(xKeycode);
+    if (!macKeyCode || ownWindowActive()) {
+        return;
+    }
+    notify(isModifierXKeycode(xKeycode) ? flagsChangedHandlers_ : keyDownHandlers_, *macKeyCode);
+}
+
+void X11KeyRouter::keyReleased(unsigned xKeycode) {
+    if (!isModifierXKeycode(xKeycode) || ownWindowActive()) {
+        return;
+    }
+    if (const std::optional<int> macKeyCode = macKeyCodeOfXKeycode(xKeycode)) {
+        notify(flagsChangedHandlers_, *macKeyCode);
+    }
+}
+
+void X11KeyRouter::notify(const std::vector<Handler>& handlers, int macKeyCode) {
+    // By index and by copy: a handler may install another one while it runs, which can move
+    // the vector's elements.
+    for (std::size_t i = 0; i < handlers.size(); ++i) {
+        const Handler handler = handlers[i];
+        handler(macKeyCode);
+    }
+}
+
+bool X11KeyRouter::ownWindowActive() const {
+    return ownWindowActive_ && ownWindowActive_();
+}
+
+} // namespace tarnic::x11

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "core/platform/KeyObserver.h"
+
+#include <functional>
+#include <vector>
+
+namespace tarnic::x11 {
+
+// Turns the raw key presses and releases the X server records into the program's two kinds of
+// observation, in macOS virtual key codes: a press or a release of a modifier key is a modifier
+// change; a press of any other key is a key-down; other releases mean nothing. Keys the table
+// does not know, and every key typed while this application's own window has the focus, are not
+// reported at all.
+class X11KeyRouter {
+public:
+    using Handler = KeyObserver::Handler;
+
+    // Asked at each key event that could be reported: true while a window of this application
+    // has the keyboard focus.
+    explicit X11KeyRouter(std::function<bool()> ownWindowActive);
+
+    void addKeyDownHandler(Handler handler);
+    void addFlagsChangedHandler(Handler handler);
+
+    void keyPressed(unsigned xKeycode);
+    void keyReleased(unsigned xKeycode);
+
+private:
+    static void notify(const std::vector<Handler>& handlers, int macKeyCode);
+    bool ownWindowActive() const;
+
+    std::function<bool()> ownWindowActive_;
+    std::vector<Handler> keyDownHandlers_;
+    std::vector<Handler> flagsChangedHandlers_;
+};
+
+} // namespace tarnic::x11

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "core/platform/Platform.h"
+
+#include <optional>
+
+namespace tarnic {
+
+// The X11 backend: the key observer (RECORD), the key poster (XTest), the frontmost application
+// (_NET_ACTIVE_WINDOW and WM_CLASS) and the accessibility answer (whether recording started).
+//
+// Call it once, on the main thread, after the QGuiApplication (or QApplication) exists and
+// before its event loop runs; the observer's replies are read by that event loop. The backend
+// opens two connections of its own to `displayName` (null: $DISPLAY): a main one for posting,
+// for the frontmost window and for controlling the recording, and one that only carries the
+// recording. Qt's own connection is left alone.
+//
+// Keys typed while a window of this application has the X input focus are not observed.
+//
+// None when the display cannot be opened (no X server, or a Wayland session without XWayland).
+std::optional<Platform> makeX11Platform(const char* displayName = nullptr);
+
+} // namespace tarnic

@@ -1,0 +1,98 @@
+#include "platform/x11/X11KeyRouter.h"
+
+#include <gtest/gtest.h>
+#include <linux/input-event-codes.h>
+
+#include <string>
+#include <vector>
+
+namespace tarnic::x11 {
+namespace {
+
+constexpr unsigned x(unsigned evdevCode) {
+    return evdevCode + 8;
+}
+
+class X11KeyRouterTest : public testing::Test {
+protected:
+    X11KeyRouterTest() {
+        router.addKeyDownHandler(
+            [this](int code) { seen.push_back("down " + std::to_string(code)); });
+        router.addFlagsChangedHandler(
+            [this](int code) { seen.push_back("flags " + std::to_string(code)); });
+    }
+
+    bool ownActive = false;
+    std::vector<std::string> seen;
+    X11KeyRouter router{[this] { return ownActive; }};
+};
+
+TEST_F(X11KeyRouterTest, KeyPressesAreKeyDownsInMacCodes) {
+    router.keyPressed(x(KEY_Q));
+    router.keyPressed(x(KEY_Q)); // auto-repeat
+    router.keyPressed(x(KEY_KP7));
+    EXPECT_EQ(seen, (std::vector<std::string>{"down 12", "down 12", "down 89"}));
+}
+
+TEST_F(X11KeyRouterTest, OrdinaryReleasesAreDropped) {
+    router.keyReleased(x(KEY_Q));
+    router.keyReleased(x(KEY_KP7));
+    EXPECT_TRUE(seen.empty());
+}
+
+TEST_F(X11KeyRouterTest, ModifierPressesAndReleasesAreModifierChanges) {
+    router.keyPressed(x(KEY_LEFTSHIFT));
+    router.keyReleased(x(KEY_LEFTSHIFT));
+    router.keyPressed(x(KEY_RIGHTSHIFT));
+    router.keyPressed(x(KEY_RIGHTCTRL));
+    router.keyPressed(x(KEY_LEFTALT));
+    router.keyPressed(x(KEY_RIGHTMETA));
+    router.keyReleased(x(KEY_CAPSLOCK));
+    EXPECT_EQ(seen, (std::vector<std::string>{"flags 56", "flags 56", "flags 60", "flags 62",
+                                              "flags 58", "flags 54", "flags 57"}));
+}
+
+TEST_F(X11KeyRouterTest, UnknownKeycodesAreNotReported) {
+    router.keyPressed(0);
+    router.keyPressed(x(KEY_FN));
+    router.keyReleased(x(KEY_FN));
+    EXPECT_TRUE(seen.empty());
+}
+
+TEST_F(X11KeyRouterTest, NothingIsReportedWhileOwnWindowIsActive) {
+    ownActive = true;
+    router.keyPressed(x(KEY_Q));
+    router.keyPressed(x(KEY_LEFTSHIFT));
+    router.keyReleased(x(KEY_LEFTSHIFT));
+    EXPECT_TRUE(seen.empty());
+    ownActive = false;
+    router.keyPressed(x(KEY_Q));
+    EXPECT_EQ(seen, (std::vector<std::string>{"down 12"}));
+}
+
+TEST(X11KeyRouter, EveryHandlerRunsInOrderAndMayAddAnother) {
+    std::vector<std::string> seen;
+    X11KeyRouter router{[] { return false; }};
+    router.addKeyDownHandler([&](int code) {
+        seen.push_back("first " + std::to_string(code));
+        if (seen.size() == 1) {
+            router.addKeyDownHandler([&](int c) { seen.push_back("late " + std::to_string(c)); });
+        }
+    });
+    router.addKeyDownHandler([&](int code) { seen.push_back("second " + std::to_string(code)); });
+    router.keyPressed(x(KEY_A));
+    router.keyPressed(x(KEY_S));
+    EXPECT_EQ(seen, (std::vector<std::string>{"first 0", "second 0", "late 0", "first 1",
+                                              "second 1", "late 1"}));
+}
+
+TEST(X11KeyRouter, WithoutAPredicateEveryKeyIsOthers) {
+    int downs = 0;
+    X11KeyRouter router{{}};
+    router.addKeyDownHandler([&](int) { ++downs; });
+    router.keyPressed(x(KEY_Q));
+    EXPECT_EQ(downs, 1);
+}
+
+} // namespace
+} // namespace tarnic::x11

@@ -1,0 +1,128 @@
+// Stands in for the application in the end-to-end tests and the benchmark: a Qt xcb program with
+// a window of its own that runs the X11 backend and the remapper's decisions, with the bindings
+// given on the command line. It reports on standard output, one line each:
+//   trusted true|false            the accessibility answer
+//   ready <window id>             the backend is recording and the window is shown
+//   observed down|flags <code>    what the observer reported (not with --quiet)
+//   posted down|up <code>         what the remapper asked the poster for (not with --quiet)
+//   own key <X keycode>           a key typed into the harness's own window
+//   isWarRun true|false           each change of the game flag
+// Options: --bind <slot>,<modifier>,<key> (repeatable; the n-th fills binding n),
+//          --timer-ms <interval of the game-detection timer, default 2000>, --quiet.
+#include "core/remapper/InventoryRemapper.h"
+#include "platform/x11/X11Platform.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QRasterWindow>
+#include <QStringList>
+#include <QTimer>
+
+#include <cstdio>
+
+namespace {
+
+void say(const QString& line) {
+    std::fputs(line.toLocal8Bit().constData(), stdout);
+    std::fputc('\n', stdout);
+    std::fflush(stdout);
+}
+
+// Shows what the remapper posts, then posts it.
+class ReportingPoster : public tarnic::KeyPoster {
+public:
+    ReportingPoster(tarnic::KeyPoster& poster, bool quiet) : poster_(poster), quiet_(quiet) {}
+
+    void postKeyDown(std::uint16_t keyCode) override {
+        poster_.postKeyDown(keyCode);
+        if (!quiet_) {
+            say(QString("posted down %1").arg(keyCode));
+        }
+    }
+    void postKeyUp(std::uint16_t keyCode) override {
+        poster_.postKeyUp(keyCode);
+        if (!quiet_) {
+            say(QString("posted up %1").arg(keyCode));
+        }
+    }
+
+private:
+    tarnic::KeyPoster& poster_;
+    bool quiet_;
+};
+
+class HarnessWindow : public QRasterWindow {
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter(this).fillRect(QRect(QPoint(), size()), Qt::darkGray);
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        say(QString("own key %1").arg(event->nativeScanCode()));
+    }
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QGuiApplication application(argc, argv);
+
+    tarnic::InventoryRemapper::Models models;
+    std::size_t bound = 0;
+    int timerMs = 2000;
+    bool quiet = false;
+    const QStringList arguments = application.arguments();
+    for (qsizetype i = 1; i < arguments.size(); ++i) {
+        if (arguments[i] == "--bind" && i + 1 < arguments.size() && bound < models.size()) {
+            for (const QString& part : arguments[++i].split(',')) {
+                models[bound].push_back(part.toLongLong());
+            }
+            ++bound;
+        } else if (arguments[i] == "--timer-ms" && i + 1 < arguments.size()) {
+            timerMs = arguments[++i].toInt();
+        } else if (arguments[i] == "--quiet") {
+            quiet = true;
+        }
+    }
+
+    std::optional<tarnic::Platform> platform = tarnic::makeX11Platform();
+    if (!platform) {
+        std::fprintf(stderr, "harness: no X display\n");
+        return 1;
+    }
+    say(QString("trusted %1")
+            .arg(platform->accessibilityTrust->isProcessTrusted() ? "true" : "false"));
+
+    ReportingPoster poster(*platform->keyPoster, quiet);
+    tarnic::InventoryRemapper remapper(models, poster);
+    platform->keyObserver->addKeyDownMonitor([&](int code) {
+        if (!quiet) {
+            say(QString("observed down %1").arg(code));
+        }
+        remapper.keyDown(code);
+    });
+    platform->keyObserver->addFlagsChangedMonitor([&](int code) {
+        if (!quiet) {
+            say(QString("observed flags %1").arg(code));
+        }
+        remapper.flagsChanged(code);
+    });
+
+    QTimer timer;
+    timer.setInterval(timerMs);
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        const bool before = remapper.isWarRun;
+        remapper.eventWithTimer(*platform->frontmostApplication);
+        if (remapper.isWarRun != before) {
+            say(QString("isWarRun %1").arg(remapper.isWarRun ? "true" : "false"));
+        }
+    });
+    timer.start();
+
+    HarnessWindow window;
+    window.setTitle("remapper harness");
+    window.resize(320, 200);
+    window.show();
+    QTimer::singleShot(0, [&] { say(QString("ready %1").arg(window.winId())); });
+    return application.exec();
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+
+#include <chrono>
+#include <functional>
+
+namespace tarnic::testing {
+
+// A child process whose standard output is read line by line, with bounded waits for the line
+// the test expects. Its standard error goes to the test's. Killed when destroyed.
+class LineProcess {
+public:
+    LineProcess() = default;
+    ~LineProcess();
+    LineProcess(const LineProcess&) = delete;
+    LineProcess& operator=(const LineProcess&) = delete;
+
+    bool start(const QString& program, const QStringList& arguments,
+               const QProcessEnvironment& environment);
+    void stop();
+
+    // The index of the first line at or after `from` that `match` accepts, waiting up to
+    // `timeout` for it to come; -1 if it does not.
+    int waitFor(const std::function<bool(const QString&)>& match, int from,
+                std::chrono::milliseconds timeout);
+    int waitForLine(const QString& line, int from, std::chrono::milliseconds timeout);
+    int waitForPrefix(const QString& prefix, int from, std::chrono::milliseconds timeout);
+
+    // Every complete line so far (reads what is waiting, without blocking).
+    const QStringList& lines();
+    QString transcript();
+
+private:
+    void readAvailable();
+
+    QProcess process_;
+    QStringList lines_;
+    QByteArray partial_;
+};
+
+} // namespace tarnic::testing

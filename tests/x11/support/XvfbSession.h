@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QString>
+
+namespace tarnic::testing {
+
+// A private X server for one test: Xvfb on a display number it picks itself (-displayfd), with
+// -noreset so that the keyboard state (Num Lock) survives its clients, and optionally openbox,
+// which keeps _NET_ACTIVE_WINDOW. Both stop when the session ends.
+class XvfbSession {
+public:
+    explicit XvfbSession(bool withWindowManager);
+    ~XvfbSession();
+    XvfbSession(const XvfbSession&) = delete;
+    XvfbSession& operator=(const XvfbSession&) = delete;
+
+    bool ok() const { return error_.isEmpty(); }
+    const QString& error() const { return error_; }
+    // ":N"
+    const QString& display() const { return display_; }
+    // The caller's environment with DISPLAY set and Qt on xcb.
+    QProcessEnvironment environment() const;
+
+private:
+    bool startServer();
+    bool startWindowManager();
+
+    QProcess server_;
+    QProcess windowManager_;
+    QString display_;
+    QString error_;
+};
+
+} // namespace tarnic::testing
