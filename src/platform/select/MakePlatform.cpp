@@ -8,6 +8,8 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
+#include <utility>
 
 namespace tarnic {
 
@@ -25,15 +27,18 @@ Platform makePlatform(PlatformChoice choice) {
         return makeFakePlatform();
     }
 #ifdef TARNIC_HAVE_X11
-    return makeX11Platform();
+    if (std::optional<Platform> x11 = makeX11Platform()) {
+        return std::move(*x11);
+    }
+    std::fprintf(stderr, "Tarnic Pro: no X server to watch keys on; keys are not observed\n");
 #else
-    // Nothing can be observed here: report the program as untrusted so the launch report
-    // tells the truth.
     std::fprintf(stderr, "Tarnic Pro: built without the X11 backend; keys are not observed\n");
+#endif
+    // Nothing can be observed here: stand in with parts that never report a key, and report
+    // the program as untrusted so the launch line tells the truth.
     Platform platform = makeFakePlatform();
     fakeParts(platform).accessibilityTrust->setTrusted(false);
     return platform;
-#endif
 }
 
 } // namespace tarnic
