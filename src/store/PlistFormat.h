@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QByteArray>
+#include <QSettings>
+
+#include <optional>
+
+namespace tarnic {
+
+// The XML property list of a settings map: a top-level dictionary holding the map's keys in key
+// order, so that the same map always gives the same bytes. A key with a '/' (a QSettings group)
+// stays one flat key of the top-level dictionary, slash and all. Values that have no
+// property-list form (invalid ones) are left out.
+QByteArray settingsToPlist(const QSettings::SettingsMap& map);
+
+// The settings map that a property list (XML or binary) holds; nullopt when the bytes are not a
+// property list or its top level is not a dictionary.
+std::optional<QSettings::SettingsMap> settingsFromPlist(const QByteArray& bytes);
+
+} // namespace tarnic
