@@ -1,3 +1,4 @@
+#include "BenchmarkExit.h"
 #include "gui/MainWindow.h"
 #include "gui/ViewController.h"
 #include "store/UserDefaults.h"
@@ -9,6 +10,7 @@ int main(int argc, char* argv[]) {
     QApplication::setOrganizationName(QStringLiteral("Tarnic"));
     QApplication::setApplicationName(QStringLiteral("Tarnic Pro"));
 
+    // The store, the controller that owns all state, and the window whose controls it drives.
     const std::unique_ptr<QSettings> store = tarnic::openUserDefaults();
     tarnic::ViewController controller(*store);
     tarnic::MainWindow window;
@@ -16,6 +18,7 @@ int main(int argc, char* argv[]) {
     controller.viewDidLoad();
     window.show();
     controller.viewDidAppear();
+    tarnic::exitWhenShownForBenchmark(window);
 
     return QApplication::exec();
 }

@@ -1,9 +1,15 @@
 #include "gui/AbilityTableModel.h"
 
+#include "gui/GuiResources.h"
+
+#include <QPixmap>
+
 namespace tarnic {
 
 AbilityTableModel::AbilityTableModel(const std::vector<AbilityRecord>& list, QObject* parent)
-    : QAbstractTableModel(parent), list_(list), rows_(static_cast<int>(list.size())) {}
+    : QAbstractTableModel(parent), list_(list), rows_(static_cast<int>(list.size())) {
+    initGuiResources();
+}
 
 void AbilityTableModel::setColumns(const QStringList& identifiers, const QStringList& titles) {
     beginResetModel();
@@ -42,16 +48,37 @@ int AbilityTableModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant AbilityTableModel::data(const QModelIndex& index, int role) const {
-    if (role != Qt::DisplayRole || !checkIndex(index, CheckIndexOption::IndexIsValid) ||
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) ||
         static_cast<std::size_t>(index.row()) >= list_.size()) {
         return {};
     }
     const std::string key = identifiers_.at(index.column()).toStdString();
+    const bool isKey = key == def_hotkey || key == new_hotkey;
+    if (role == Qt::TextAlignmentRole && isKey) {
+        return QVariant::fromValue(Qt::Alignment(Qt::AlignCenter));
+    }
+    if (role != Qt::DisplayRole && !(role == Qt::DecorationRole && key == name_spell)) {
+        return {};
+    }
     const std::string* value = field(list_[static_cast<std::size_t>(index.row())], key);
     if (value == nullptr) {
         return {};
     }
-    return QString::fromStdString(*value);
+    const QString text = QString::fromStdString(*value);
+    return role == Qt::DisplayRole ? QVariant(text) : QVariant(thumbnail(text));
+}
+
+QPixmap AbilityTableModel::thumbnail(const QString& name) const {
+    // A small copy of the ability's picture beside its name; drawn rows only, so it stays cheap.
+    auto it = thumbnails_.find(name);
+    if (it == thumbnails_.end()) {
+        const QPixmap picture(QStringLiteral(":/images/") + name + QStringLiteral(".png"));
+        it = thumbnails_.insert(name, picture.isNull() ? picture
+                                                       : picture.scaled(kThumbnail, kThumbnail,
+                                                                        Qt::KeepAspectRatio,
+                                                                        Qt::SmoothTransformation));
+    }
+    return it.value();
 }
 
 QVariant AbilityTableModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -12,6 +12,8 @@ AbilityTableView::AbilityTableView(QWidget* parent) : QTableView(parent) {
     setShowGrid(false);
     setWordWrap(false);
     verticalHeader()->hide();
+    verticalHeader()->setDefaultSectionSize(26);
+    setIconSize(QSize(20, 20));
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }

@@ -34,6 +34,26 @@ TEST(AbilityTableModel, PassesTheModelTesterOverTheCatalogue) {
     }
 }
 
+TEST(AbilityTableModel, AbilityNamesComeWithTheirPictureAndKeysAreCentred) {
+    std::vector<AbilityRecord> list = all_data();
+    list.push_back(makeRecord("Nothing Drawn For This", "Unit", "N"));
+    AbilityTableModel model(list);
+    model.setColumns(kKeys, kTitles);
+    for (int r = 0; r + 1 < model.rowCount(); ++r) {
+        const QPixmap picture = model.index(r, 0).data(Qt::DecorationRole).value<QPixmap>();
+        EXPECT_FALSE(picture.isNull()) << r;
+        EXPECT_EQ(picture.width(), AbilityTableModel::kThumbnail);
+        EXPECT_FALSE(model.index(r, 1).data(Qt::DecorationRole).isValid());
+    }
+    EXPECT_TRUE(
+        model.index(model.rowCount() - 1, 0).data(Qt::DecorationRole).value<QPixmap>().isNull());
+    EXPECT_EQ(model.index(0, 2).data(Qt::TextAlignmentRole).value<Qt::Alignment>(),
+              Qt::AlignCenter);
+    EXPECT_EQ(model.index(0, 3).data(Qt::TextAlignmentRole).value<Qt::Alignment>(),
+              Qt::AlignCenter);
+    EXPECT_FALSE(model.index(0, 0).data(Qt::TextAlignmentRole).isValid());
+}
+
 TEST(AbilityTableModel, HeaderTitlesFollowTheColumns) {
     std::vector<AbilityRecord> list = generalCommands();
     AbilityTableModel model(list);

@@ -4,6 +4,7 @@
 #include "core/catalogue/Catalogue.h"
 #include "core/editor/RecordFactory.h"
 #include "core/vocabulary/KeyCodes.h"
+#include "gui/GuiResources.h"
 
 #include <QDir>
 #include <QFile>
@@ -134,6 +135,7 @@ TEST_F(EditorState, TemplateIsTheShippedFileWhole) {
 }
 
 TEST_F(EditorState, WithoutTheTemplateStartUpCompletesWithAnEmptyTemplate) {
+    initGuiResources();
     unregisterTemplate();
     launch();
     registerTemplate();
