@@ -82,8 +82,16 @@ QPixmap AbilityTableModel::thumbnail(const QString& name) const {
 }
 
 QVariant AbilityTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 ||
+    if (orientation != Qt::Horizontal || section < 0 ||
         section >= static_cast<int>(titles_.size())) {
+        return QAbstractTableModel::headerData(section, orientation, role);
+    }
+    if (role == Qt::TextAlignmentRole && section < static_cast<int>(identifiers_.size()) &&
+        (identifiers_.at(section) == QLatin1String(def_hotkey) ||
+         identifiers_.at(section) == QLatin1String(new_hotkey))) {
+        return QVariant::fromValue(Qt::Alignment(Qt::AlignCenter));
+    }
+    if (role != Qt::DisplayRole) {
         return QAbstractTableModel::headerData(section, orientation, role);
     }
     return titles_.at(section);

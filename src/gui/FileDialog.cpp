@@ -1,6 +1,8 @@
 #include "gui/FileDialog.h"
 
+#include <QDir>
 #include <QFileDialog>
+#include <QStandardPaths>
 #include <QTimer>
 
 namespace tarnic {
@@ -24,6 +26,12 @@ void FileDialog::saveTextFile(QWidget* parent, const QString& proposedName, QObj
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setNameFilter(QFileDialog::tr("Text files (*.txt)"));
     dialog->setDefaultSuffix(QStringLiteral("txt"));
+    // Start where a player keeps his files, not in whatever folder the program was started from.
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    if (folder.isEmpty() || !QDir(folder).exists()) {
+        folder = QDir::homePath();
+    }
+    dialog->setDirectory(folder);
     dialog->selectFile(proposedName);
     QObject::connect(dialog, &QFileDialog::finished, context,
                      [dialog, done = std::move(done)](int response) {

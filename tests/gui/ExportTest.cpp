@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTest>
 
 static void unregisterTemplate() {
@@ -205,6 +206,10 @@ TEST_F(Export, DialogProposesCustomKeysAsATextFileAndWritesWhereTheUserSays) {
     auto* nameField = dialog->findChild<QLineEdit*>("fileNameEdit");
     ASSERT_NE(nameField, nullptr);
     EXPECT_EQ(nameField->text(), "CustomKeys");
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    EXPECT_TRUE(dialog->directory().absolutePath() == QDir(documents).absolutePath() ||
+                dialog->directory().absolutePath() == QDir::home().absolutePath())
+        << dialog->directory().absolutePath().toStdString();
     // The dialog does not block: the click returned while it is still open.
     EXPECT_TRUE(finished.isEmpty());
     dialog->setDirectory(dir_.path());
