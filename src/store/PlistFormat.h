@@ -9,7 +9,9 @@ namespace tarnic {
 
 // The XML property list of a settings map: a top-level dictionary holding the map's keys in key
 // order, so that the same map always gives the same bytes. A key with a '/' (a QSettings group)
-// stays one flat key of the top-level dictionary, slash and all. Values that have no
+// stays one flat key of the top-level dictionary, slash and all; QSettings reaches such a key
+// through its groups. (A hand-written key that QSettings would not produce, like "/a" or "a//b",
+// is kept on rewrite but cannot be looked up.) Values that have no
 // property-list form (invalid ones) are left out.
 QByteArray settingsToPlist(const QSettings::SettingsMap& map);
 

@@ -21,8 +21,8 @@ QString inventoryModelKey(int slot) {
 // something else, and guessing what was meant could overwrite the player's data.
 [[noreturn]] void wrongType(const QSettings& settings, const QString& key,
                             std::string_view expected, const std::string& found) {
-    const std::string detail = "key \"" + key.toStdString() + "\" in " +
-                               settings.fileName().toStdString() + ": expected " +
+    const std::string detail = "key \"" + key.toStdString() + "\" in \"" +
+                               settings.fileName().toStdString() + "\": expected " +
                                std::string(expected) + ", found " + found;
     fatalError("Stored value of the wrong type", detail);
 }

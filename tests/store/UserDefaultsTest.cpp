@@ -6,6 +6,10 @@
 #include <QFileInfo>
 
 #include <gtest/gtest.h>
+#include <plist/plist.h>
+
+#include <cstdint>
+#include <ostream>
 
 namespace tarnic {
 namespace {
@@ -182,6 +186,10 @@ struct WrongTypeCase {
     const char* pattern;
 };
 
+void PrintTo(const WrongTypeCase& wrongCase, std::ostream* out) {
+    *out << wrongCase.name;
+}
+
 class WrongStoredType : public ::testing::TestWithParam<WrongTypeCase> {};
 
 TEST_P(WrongStoredType, IsAFatalErrorNamingKeyAndTypes) {
@@ -223,6 +231,49 @@ INSTANTIATE_TEST_SUITE_P(
                       "key \"inventoryModel3\".*expected array of integers, found array "
                       "containing string"}),
     [](const ::testing::TestParamInfo<WrongTypeCase>& info) { return info.param.name; });
+
+TEST(UserDefaults, KeysWithASlashStayFlat) {
+    StoreFolder folder;
+    {
+        auto settings = openUserDefaults();
+        settings->setValue(QStringLiteral("window/geometry"), QStringLiteral("800x600"));
+    }
+    const QByteArray file = folder.readStore();
+    EXPECT_TRUE(file.contains("<key>window/geometry</key>")) << file.toStdString();
+    EXPECT_FALSE(file.contains("<key>window</key>")) << file.toStdString();
+    auto settings = openUserDefaults();
+    settings->beginGroup(QStringLiteral("window"));
+    EXPECT_EQ(settings->value(QStringLiteral("geometry")).toString(), QStringLiteral("800x600"));
+}
+
+TEST(UserDefaults, BinaryPropertyListIsReadAndWrittenBackAsXml) {
+    StoreFolder folder;
+    plist_t root = plist_new_dict();
+    plist_t model = plist_new_array();
+    for (const std::int64_t number : {5, 56, 14}) {
+        plist_array_append_item(model, plist_new_uint(static_cast<std::uint64_t>(number)));
+    }
+    plist_dict_set_item(root, "inventoryModel5", model);
+    char* binary = nullptr;
+    std::uint32_t length = 0;
+    plist_to_bin(root, &binary, &length);
+    plist_free(root);
+    ASSERT_NE(binary, nullptr);
+    folder.writeStore(QByteArray(binary, static_cast<qsizetype>(length)));
+    plist_to_bin_free(binary);
+    ASSERT_TRUE(folder.readStore().startsWith("bplist00"));
+
+    CaptureStderr();
+    auto settings = openUserDefaults();
+    EXPECT_EQ(GetCapturedStderr(), "");
+    EXPECT_TRUE(folder.setAsideFiles().isEmpty());
+    UserDefaults defaults(*settings);
+    EXPECT_EQ(defaults.inventoryModel(5), (InventoryModel{5, 56, 14}));
+    defaults.setInventoryModel(1, {1, 0, 12});
+    const QByteArray file = folder.readStore();
+    EXPECT_TRUE(file.contains("<key>inventoryModel5</key>")) << file.toStdString();
+    EXPECT_TRUE(file.contains("<key>inventoryModel1</key>")) << file.toStdString();
+}
 
 TEST(UserDefaults, UnparsableStoreIsSetAsideAndTheStoreStartsEmpty) {
     StoreFolder folder;
