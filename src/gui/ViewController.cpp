@@ -10,6 +10,7 @@
 #include "gui/AbilityTableView.h"
 #include "gui/GuiResources.h"
 #include "gui/Outlet.h"
+#include "platform/timer/GameDetectionTimer.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -44,9 +45,10 @@ QPixmap pictureNamed(const std::string& name) {
 
 } // namespace
 
-ViewController::ViewController(QSettings& settings, QObject* parent)
+ViewController::ViewController(QSettings& settings, Platform& platform, QObject* parent)
     : QObject(parent), mainDic(all_data()), keyboardKeys(tarnic::keyboardKeys),
-      keyboardKeysNum(tarnic::keyboardKeysNum), defaults_(settings), tableModel_(mainDic) {
+      keyboardKeysNum(tarnic::keyboardKeysNum), defaults_(settings),
+      remapperSession_(inventoryModels, platform), tableModel_(mainDic) {
     initGuiResources();
 }
 
@@ -107,8 +109,10 @@ void ViewController::viewDidLoad() {
                 }
             });
 
-    // The inventory-key remapper installs its key observers and its game-detection timer
-    // after this point.
+    // The inventory remapper: watch the keys of other applications (key-down, then modifier
+    // changes) and look for the game every 2 seconds. Neither is ever removed.
+    remapperSession_.installObservers();
+    new GameDetectionTimer(remapperSession_, this);
 }
 
 void ViewController::viewDidAppear() {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "core/platform/Platform.h"
 #include "core/record/AbilityRecord.h"
 #include "core/remapper/InventoryRemapper.h"
+#include "core/remapper/RemapperSession.h"
 #include "core/vocabulary/KeyCodes.h"
 #include "gui/AbilityTableModel.h"
 #include "gui/FileDialog.h"
@@ -31,18 +33,15 @@ namespace tarnic {
 class ViewController : public QObject {
     Q_OBJECT
 public:
-    // `settings` is the user defaults store; it must outlive the controller.
-    explicit ViewController(QSettings& settings, QObject* parent = nullptr);
+    // `settings` is the user defaults store and `platform` watches and types keys for the
+    // inventory remapper; both must outlive the controller.
+    ViewController(QSettings& settings, Platform& platform, QObject* parent = nullptr);
     ~ViewController() override;
 
     // The whole text of the ":/defaultkeys" template, read when the view loads.
     std::string def_keys_bundle;
     // The text the last export built.
     std::string result;
-    // Modifier and game state of the inventory-key remapper.
-    std::int64_t flagHold = -1;
-    bool isFlag = false;
-    bool isWarRun = false;
     // The slot (1 to 6) the inventory controls edit; 0 until a slot is chosen.
     std::int64_t inventoryEditNow = 0;
     // inventoryModel1 .. inventoryModel6: the binding of each slot, empty while unbound. The
@@ -78,6 +77,10 @@ public:
     FileDialog& fileDialog() { return fileDialog_; }
     // The table's data.
     AbilityTableModel& tableModel() { return tableModel_; }
+    // The inventory remapper's decisions and its modifier and game state (flagHold, isFlag,
+    // isWarRun), fed by the key observers that the view installs when it loads.
+    InventoryRemapper& remapper() { return remapperSession_.remapper(); }
+    const InventoryRemapper& remapper() const { return remapperSession_.remapper(); }
 
     // Actions.
     void eraseKey();
@@ -115,6 +118,7 @@ private:
     void writeResult(const std::optional<QString>& path);
 
     UserDefaults defaults_;
+    RemapperSession remapperSession_;
     AbilityTableModel tableModel_;
     FileDialog fileDialog_;
     QPointer<QWidget> window_;

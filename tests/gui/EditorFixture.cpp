@@ -29,7 +29,7 @@ void EditorFixture::TearDown() {
 void EditorFixture::launch() {
     shutDown();
     settings_ = openUserDefaults();
-    controller_ = std::make_unique<ViewController>(*settings_);
+    controller_ = std::make_unique<ViewController>(*settings_, platform_);
     window_ = std::make_unique<MainWindow>();
     window_->connectController(*controller_);
     controller_->viewDidLoad();

@@ -4,6 +4,7 @@
 #include "core/remapper/InventoryRemapper.h"
 #include "gui/MainWindow.h"
 #include "gui/ViewController.h"
+#include "platform/fake/FakePlatform.h"
 #include "ui_MainWindow.h"
 
 #include <QByteArray>
@@ -52,6 +53,9 @@ protected:
     MainWindow& window() { return *window_; }
 
     QTemporaryDir dir_;
+    // What the remapper watches and types through: recording fakes the tests drive.
+    Platform platform_ = makeFakePlatform();
+    FakeParts fakes() const { return fakeParts(platform_); }
     std::unique_ptr<QSettings> settings_;
     std::unique_ptr<ViewController> controller_;
     std::unique_ptr<MainWindow> window_;

@@ -24,12 +24,12 @@ class EditorState : public EditorFixture {};
 
 TEST_F(EditorState, InitialValuesBeforeTheViewLoads) {
     settings_ = openUserDefaults();
-    ViewController controller(*settings_);
+    ViewController controller(*settings_, platform_);
     EXPECT_EQ(controller.def_keys_bundle, "");
     EXPECT_EQ(controller.result, "");
-    EXPECT_EQ(controller.flagHold, -1);
-    EXPECT_FALSE(controller.isFlag);
-    EXPECT_FALSE(controller.isWarRun);
+    EXPECT_EQ(controller.remapper().flagHold, -1);
+    EXPECT_FALSE(controller.remapper().isFlag);
+    EXPECT_FALSE(controller.remapper().isWarRun);
     EXPECT_EQ(controller.inventoryEditNow, 0);
     for (const InventoryModel& model : controller.inventoryModels) {
         EXPECT_TRUE(model.empty());
@@ -213,7 +213,7 @@ TEST_F(EditorStateDeathTest, BindingOfTheWrongTypeEndsTheProgram) {
 
 TEST_F(EditorStateDeathTest, UnconnectedOutletEndsTheProgram) {
     settings_ = openUserDefaults();
-    ViewController controller(*settings_);
+    ViewController controller(*settings_, platform_);
     EXPECT_DEATH(controller.viewDidLoad(),
                  "Unexpectedly found nil while implicitly unwrapping an Optional value: keysPopup");
 }

@@ -108,6 +108,14 @@ protected:
     std::optional<Platform> platform;
 };
 
+TEST(X11Platform, ServerWithoutRecordLeavesTheProcessUntrusted) {
+    XvfbSession server(false, {"-extension", "RECORD"});
+    ASSERT_TRUE(server.ok()) << server.error().toStdString();
+    std::optional<Platform> platform = makeX11Platform(server.display().toLocal8Bit().constData());
+    ASSERT_TRUE(platform.has_value());
+    EXPECT_FALSE(platform->accessibilityTrust->isProcessTrusted());
+}
+
 TEST_F(X11BackendTest, RecordingStartsSoTheProcessCountsAsTrusted) {
     EXPECT_TRUE(platform->accessibilityTrust->isProcessTrusted());
 }

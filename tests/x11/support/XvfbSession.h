@@ -11,7 +11,9 @@ namespace tarnic::testing {
 // which keeps _NET_ACTIVE_WINDOW. Both stop when the session ends.
 class XvfbSession {
 public:
-    explicit XvfbSession(bool withWindowManager);
+    // `serverArguments` are added to Xvfb's own (for example "-extension", "RECORD" to take
+    // RECORD away).
+    explicit XvfbSession(bool withWindowManager, const QStringList& serverArguments = {});
     ~XvfbSession();
     XvfbSession(const XvfbSession&) = delete;
     XvfbSession& operator=(const XvfbSession&) = delete;
@@ -24,7 +26,7 @@ public:
     QProcessEnvironment environment() const;
 
 private:
-    bool startServer();
+    bool startServer(const QStringList& serverArguments);
     bool startWindowManager();
 
     QProcess server_;
