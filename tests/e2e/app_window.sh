@@ -1,0 +1,84 @@
+#!/usr/bin/env bash
+# The built application against a loopback copy of the maker's site, on a real X server with a
+# real window manager.
+#   app_window.sh APP SITE_DIR PORT up     site reachable: the main window shows; closing it ends
+#                                          the application
+#   app_window.sh APP SITE_DIR PORT down   nothing listens: the alert shows over the window and
+#                                          the application ends once "Ok" is pressed
+set -u
+app=$1 site=$2 port=$3 mode=$4
+here=$(cd "$(dirname "$0")" && pwd)
+# shellcheck source=xvfb-session.sh
+. "$here/xvfb-session.sh"
+
+work=$(mktemp -d)
+cleanup() {
+    [ -n "${APP_PID:-}" ] && kill "$APP_PID" 2>/dev/null
+    [ -n "${SITE_PID:-}" ] && kill "$SITE_PID" 2>/dev/null
+    session_stop
+    rm -rf "$work"
+}
+trap cleanup EXIT
+fail() { echo "FAIL: $*" >&2; echo "--- application output:" >&2; cat "$work/out" "$work/err" >&2; exit 1; }
+
+xvfb_start || exit 1
+wm_start || exit 1
+
+if [ "$mode" = up ]; then
+    python3 -m http.server --bind 127.0.0.1 --directory "$site" "$port" >/dev/null 2>&1 &
+    SITE_PID=$!
+    deadline=$((SECONDS + 20))
+    until python3 -c "import urllib.request,sys; urllib.request.urlopen('http://127.0.0.1:$port/tn11.plist', timeout=1)" 2>/dev/null; do
+        [ $SECONDS -lt $deadline ] || fail "the loopback site did not come up on port $port"
+        kill -0 "$SITE_PID" 2>/dev/null || fail "port $port is taken"
+        sleep 0.1
+    done
+fi
+
+XDG_CONFIG_HOME="$work/config" QT_QPA_PLATFORM=xcb "$app" >"$work/out" 2>"$work/err" &
+APP_PID=$!
+
+wait_for_exit() { # seconds
+    local deadline=$((SECONDS + $1))
+    while kill -0 "$APP_PID" 2>/dev/null; do
+        [ $SECONDS -lt $deadline ] || return 1
+        sleep 0.1
+    done
+    wait "$APP_PID"
+    APP_RC=$?
+    APP_PID=
+}
+
+main_window=$(wait_for_window "Tarnic Pro" 60) || fail "no main window appeared"
+
+if [ "$mode" = up ]; then
+    # The gate has passed once the diagnostic line is out and the application is still there.
+    deadline=$((SECONDS + 30))
+    until grep -q '^AXIsProcessTrusted \(true\|false\)$' "$work/out"; do
+        [ $SECONDS -lt $deadline ] || fail "no diagnostic line"
+        sleep 0.1
+    done
+    kill -0 "$APP_PID" 2>/dev/null || fail "the application ended although the site is up"
+    [ "$(grep -c AXIsProcessTrusted "$work/out")" -eq 1 ] || fail "the diagnostic line is not printed exactly once"
+    # Closing the main window through the window manager ends the application.
+    wmctrl -i -c "$main_window" || fail "could not ask the window manager to close the window"
+    wait_for_exit 20 || fail "closing the main window did not end the application"
+    [ "$APP_RC" -eq 0 ] || fail "the application ended with status $APP_RC"
+    echo "PASS: main window shown, closing it ended the application"
+else
+    # The alert is a second top-level window of the application, modal over the main one.
+    deadline=$((SECONDS + 60))
+    until [ "$(xdotool search --onlyvisible --pid "$APP_PID" --name '.' 2>/dev/null | wc -l)" -ge 2 ]; do
+        [ $SECONDS -lt $deadline ] || fail "no alert appeared with the site down"
+        kill -0 "$APP_PID" 2>/dev/null || fail "the application ended before the alert was answered"
+        sleep 0.1
+    done
+    sleep 0.5
+    kill -0 "$APP_PID" 2>/dev/null || fail "the application ended before the alert was answered"
+    alert=$(xdotool getactivewindow)
+    [ "$alert" != "$main_window" ] || fail "the alert is not the active window"
+    xdotool key --window "$alert" Return || fail "could not press Ok"
+    wait_for_exit 20 || fail "the application did not end after Ok"
+    [ "$APP_RC" -eq 0 ] || fail "the application ended with status $APP_RC"
+    echo "PASS: alert shown with the site down, the application ended after Ok"
+fi
