@@ -25,7 +25,7 @@ xvfb_start || exit 1
 wm_start || exit 1
 
 if [ "$mode" = up ]; then
-    python3 -m http.server --bind 127.0.0.1 --directory "$site" "$port" >/dev/null 2>&1 &
+    python3 -m http.server --bind 127.0.0.1 --directory "$site" "$port" >/dev/null 2>"$work/site.log" &
     SITE_PID=$!
     deadline=$((SECONDS + 20))
     until python3 -c "import urllib.request,sys; urllib.request.urlopen('http://127.0.0.1:$port/tn11.plist', timeout=1)" 2>/dev/null; do
@@ -52,12 +52,14 @@ wait_for_exit() { # seconds
 main_window=$(wait_for_window "Tarnic Pro" 60) || fail "no main window appeared"
 
 if [ "$mode" = up ]; then
-    # The gate has passed once the diagnostic line is out and the application is still there.
+    # The gate has passed once the site has served the version file and the application is
+    # still there.
     deadline=$((SECONDS + 30))
-    until grep -q '^AXIsProcessTrusted \(true\|false\)$' "$work/out"; do
-        [ $SECONDS -lt $deadline ] || fail "no diagnostic line"
+    until grep -q 'GET /tn11.plist HTTP/1.1" 200' "$work/site.log"; do
+        [ $SECONDS -lt $deadline ] || fail "the application did not fetch the version file"
         sleep 0.1
     done
+    grep -q '^AXIsProcessTrusted \(true\|false\)$' "$work/out" || fail "no diagnostic line"
     kill -0 "$APP_PID" 2>/dev/null || fail "the application ended although the site is up"
     [ "$(grep -c AXIsProcessTrusted "$work/out")" -eq 1 ] || fail "the diagnostic line is not printed exactly once"
     # Closing the main window through the window manager ends the application.
@@ -66,10 +68,11 @@ if [ "$mode" = up ]; then
     [ "$APP_RC" -eq 0 ] || fail "the application ended with status $APP_RC"
     echo "PASS: main window shown, closing it ended the application"
 else
-    # The alert is a second top-level window of the application, modal over the main one.
+    # The alert is a second window of the application, modal over the main one, and active.
     deadline=$((SECONDS + 60))
-    until [ "$(xdotool search --onlyvisible --pid "$APP_PID" --name '.' 2>/dev/null | wc -l)" -ge 2 ]; do
-        [ $SECONDS -lt $deadline ] || fail "no alert appeared with the site down"
+    until active=$(xdotool getactivewindow 2>/dev/null) && [ "$active" != "$main_window" ] &&
+        [ "$(xdotool getwindowpid "$active" 2>/dev/null)" = "$APP_PID" ]; do
+        [ $SECONDS -lt $deadline ] || { xwininfo -root -tree >&2; fail "no alert appeared with the site down"; }
         kill -0 "$APP_PID" 2>/dev/null || fail "the application ended before the alert was answered"
         sleep 0.1
     done
@@ -77,7 +80,8 @@ else
     kill -0 "$APP_PID" 2>/dev/null || fail "the application ended before the alert was answered"
     alert=$(xdotool getactivewindow)
     [ "$alert" != "$main_window" ] || fail "the alert is not the active window"
-    xdotool key --window "$alert" Return || fail "could not press Ok"
+    # The alert has the focus, so a key typed on the keyboard (XTest) reaches it.
+    xdotool key Return || fail "could not press Ok"
     wait_for_exit 20 || fail "the application did not end after Ok"
     [ "$APP_RC" -eq 0 ] || fail "the application ended with status $APP_RC"
     echo "PASS: alert shown with the site down, the application ended after Ok"

@@ -16,12 +16,23 @@ xvfb_start() {
 wm_start() {
     openbox --sm-disable >/dev/null 2>&1 &
     WM_PID=$!
-    # The window manager is ready once it has set _NET_SUPPORTING_WM_CHECK on the root window.
-    local deadline=$((SECONDS + 20))
-    until xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; do
-        [ $SECONDS -lt $deadline ] || { echo "openbox did not start" >&2; return 1; }
+    # openbox announces itself before it manages windows, and a window mapped in between stays
+    # unmanaged: it is ready once a probe window shows up in its client list.
+    xmessage -name tarnic-wm-probe probe >/dev/null 2>&1 &
+    local probe=$! deadline=$((SECONDS + 30))
+    # The probe is the only client, so any entry in the list is the probe.
+    until xprop -root _NET_CLIENT_LIST 2>/dev/null | grep -q '0x'; do
+        [ $SECONDS -lt $deadline ] || { echo "openbox did not start" >&2; kill "$probe"; return 1; }
         sleep 0.1
     done
+    kill "$probe" 2>/dev/null
+    wait "$probe" 2>/dev/null
+    deadline=$((SECONDS + 10))
+    while xprop -root _NET_CLIENT_LIST 2>/dev/null | grep -q '0x'; do
+        [ $SECONDS -lt $deadline ] || break
+        sleep 0.1
+    done
+    return 0
 }
 
 session_stop() {
