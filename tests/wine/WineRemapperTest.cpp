@@ -4,6 +4,7 @@
 #include "x11/support/QtPrinters.h"
 #include "x11/support/XTestDriver.h"
 #include "x11/support/XvfbSession.h"
+#include "x11/support/XKeycodes.h"
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -23,9 +24,7 @@ using testing::LineProcess;
 using testing::XTestDriver;
 using testing::XvfbSession;
 
-constexpr unsigned x(unsigned evdevCode) {
-    return evdevCode + 8;
-}
+using testing::x;
 
 struct SlotKeys {
     unsigned trigger;        // evdev code of the bound key

@@ -6,6 +6,7 @@
 #include "x11/support/LineProcess.h"
 #include "x11/support/XTestDriver.h"
 #include "x11/support/XvfbSession.h"
+#include "x11/support/XKeycodes.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -26,11 +27,9 @@ using testing::LineProcess;
 using testing::XTestDriver;
 using testing::XvfbSession;
 
-constexpr unsigned x(unsigned evdevCode) {
-    return evdevCode + 8;
-}
-constexpr unsigned kShiftMask = 1;
-constexpr unsigned kNumLockMask = 16; // Mod2, where Xvfb's keymap puts Num Lock
+using testing::kNumLockMask;
+using testing::kShiftMask;
+using testing::x;
 
 // Runs the event loop until `done` holds or the time is up; true if it holds.
 template <typename Predicate> bool processUntil(Predicate done, std::chrono::milliseconds timeout) {

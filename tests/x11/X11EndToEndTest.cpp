@@ -6,6 +6,7 @@
 #include "x11/support/QtPrinters.h"
 #include "x11/support/XTestDriver.h"
 #include "x11/support/XvfbSession.h"
+#include "x11/support/XKeycodes.h"
 
 #include <QCoreApplication>
 
@@ -23,10 +24,8 @@ using testing::LineProcess;
 using testing::XTestDriver;
 using testing::XvfbSession;
 
-constexpr unsigned x(unsigned evdevCode) {
-    return evdevCode + 8;
-}
-constexpr unsigned kShiftMask = 1;
+using testing::kShiftMask;
+using testing::x;
 
 class X11EndToEndTest : public ::testing::Test {
 protected:

@@ -1,6 +1,7 @@
 #include "platform/x11/X11KeyCodes.h"
 
 #include "core/vocabulary/KeyCodes.h"
+#include "x11/support/XKeycodes.h"
 
 #include <gtest/gtest.h>
 #include <linux/input-event-codes.h>
@@ -10,9 +11,7 @@
 namespace tarnic::x11 {
 namespace {
 
-constexpr unsigned x(unsigned evdevCode) {
-    return evdevCode + 8;
-}
+using testing::x;
 
 TEST(X11KeyCodes, QIsEvdev16AndMacTwelve) {
     EXPECT_EQ(x(KEY_Q), 24u);
@@ -54,7 +53,7 @@ struct Expected {
 };
 
 // Physical positions checked against the kernel's own names.
-class PhysicalKey : public testing::TestWithParam<Expected> {};
+class PhysicalKey : public ::testing::TestWithParam<Expected> {};
 
 TEST_P(PhysicalKey, MapsByPosition) {
     EXPECT_EQ(xKeycodeOfMacKeyCode(GetParam().mac), x(GetParam().evdev));
@@ -63,7 +62,7 @@ TEST_P(PhysicalKey, MapsByPosition) {
 
 INSTANTIATE_TEST_SUITE_P(
     Keys, PhysicalKey,
-    testing::Values(
+    ::testing::Values(
         Expected{0, KEY_A}, Expected{6, KEY_Z}, Expected{12, KEY_Q}, Expected{16, KEY_Y},
         Expected{17, KEY_T}, Expected{46, KEY_M}, Expected{18, KEY_1}, Expected{23, KEY_5},
         Expected{22, KEY_6}, Expected{29, KEY_0}, Expected{27, KEY_MINUS}, Expected{24, KEY_EQUAL},

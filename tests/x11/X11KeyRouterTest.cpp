@@ -1,4 +1,5 @@
 #include "platform/x11/X11KeyRouter.h"
+#include "x11/support/XKeycodes.h"
 
 #include <gtest/gtest.h>
 #include <linux/input-event-codes.h>
@@ -9,11 +10,9 @@
 namespace tarnic::x11 {
 namespace {
 
-constexpr unsigned x(unsigned evdevCode) {
-    return evdevCode + 8;
-}
+using testing::x;
 
-class X11KeyRouterTest : public testing::Test {
+class X11KeyRouterTest : public ::testing::Test {
 protected:
     X11KeyRouterTest() {
         router.addKeyDownHandler(
