@@ -1,0 +1,146 @@
+#!/usr/bin/env bash
+# Starts the program from the unpacked package on a real X server (Xvfb) against a loopback copy
+# of the maker's site, and waits for its main window.
+#   deb_launch.sh DEB_DIR SITE_URL
+# The program was built to fetch SITE_URL/tn11.plist at launch; this test serves that address
+# itself, so SITE_URL must be a loopback http:// URL (any other is skipped, exit 77).
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+. "$here/common.sh"
+out=$1 site_url=$2
+window_timeout=60
+fetch_timeout=60
+port_timeout=30
+
+shopt -s nullglob
+debs=("$out"/tarnic-pro_*.deb)
+[ ${#debs[@]} -eq 1 ] || fail "expected one tarnic-pro_*.deb in $out, found ${#debs[@]}"
+
+read -r scheme host port path < <(python3 - "$site_url" <<'PY'
+import sys, urllib.parse
+u = urllib.parse.urlsplit(sys.argv[1])
+print(u.scheme, u.hostname or "-", u.port or 80, u.path.strip("/") or ".")
+PY
+)
+if [ "$scheme" != http ] || { [ "$host" != 127.0.0.1 ] && [ "$host" != localhost ]; }; then
+    echo "SKIP: the program was built for $site_url, which this test cannot serve on loopback"
+    exit 77
+fi
+
+scratch=$(mktemp -d)
+pids=()
+cleanup() {
+    local pid
+    for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
+    for pid in "${pids[@]}"; do wait "$pid" 2>/dev/null || true; done
+    rm -rf "$scratch"
+}
+trap cleanup EXIT
+
+dpkg -x "${debs[0]}" "$scratch/root" || fail "dpkg -x cannot unpack ${debs[0]}"
+exe=$scratch/root/usr/bin/tarnic-pro
+[ -x "$exe" ] || fail "the package has no usr/bin/tarnic-pro"
+
+# The site: one version-support file, an XML property-list dictionary.
+mkdir -p "$scratch/site/$path"
+cat >"$scratch/site/$path/tn11.plist" <<'PLIST'
+<?xml version="1.0" encoding="UTF-8"?>
+<!DOCTYPE plist PUBLIC "-//Apple//DTD PLIST 1.0//EN" "http://www.apple.com/DTDs/PropertyList-1.0.dtd">
+<plist version="1.0">
+<dict>
+	<key>supported</key>
+	<true/>
+</dict>
+</plist>
+PLIST
+
+# The port is fixed by the build. Another test serving the same site may hold it for a while;
+# wait a bounded time for it, then say plainly what is in the way.
+port_free() {
+    python3 - "$port" <<'PY'
+import socket, sys
+s = socket.socket()
+# As the HTTP server does, so that connections of an earlier run left in TIME_WAIT do not count.
+s.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1)
+try:
+    s.bind(("127.0.0.1", int(sys.argv[1])))
+except OSError:
+    sys.exit(1)
+PY
+}
+deadline=$((SECONDS + port_timeout))
+until port_free; do
+    [ $SECONDS -lt $deadline ] ||
+        fail "port $port on 127.0.0.1 is taken: the program is built to fetch $site_url, so this test must serve it there (free the port, or configure TARNIC_SITE_URL with another loopback port)"
+    sleep 0.5
+done
+
+python3 -u -m http.server --bind 127.0.0.1 --directory "$scratch/site" "$port" \
+    >"$scratch/http.log" 2>&1 &
+pids+=($!)
+server=$!
+# Ready when it answers; bounded.
+python3 - "$site_url/tn11.plist" <<'PY' || fail "the loopback site did not come up on port $port: $(cat "$scratch/http.log")"
+import sys, time, urllib.request
+deadline = time.monotonic() + 20
+while True:
+    try:
+        urllib.request.urlopen(sys.argv[1], timeout=2).read()
+        break
+    except OSError:
+        if time.monotonic() > deadline:
+            sys.exit(1)
+        time.sleep(0.1)
+PY
+kill -0 "$server" 2>/dev/null || fail "another server answered on port $port: $(cat "$scratch/http.log")"
+: >"$scratch/http.log"
+
+# A private X server on a display number it picks itself and reports through a pipe.
+mkfifo "$scratch/displayfd"
+Xvfb -displayfd 3 -noreset -nolisten tcp -screen 0 1280x800x24 3>"$scratch/displayfd" \
+    >"$scratch/xvfb.log" 2>&1 &
+pids+=($!)
+read -r -t 30 display <"$scratch/displayfd" || fail "Xvfb did not start: $(cat "$scratch/xvfb.log")"
+export DISPLAY=:$display
+
+# The player's environment: a home and config folder of its own, the X11 platform.
+export HOME=$scratch/home XDG_CONFIG_HOME=$scratch/home/.config XDG_RUNTIME_DIR=$scratch/run
+mkdir -p "$XDG_CONFIG_HOME" && mkdir -m 700 "$XDG_RUNTIME_DIR"
+export QT_QPA_PLATFORM=xcb
+
+"$exe" >"$scratch/app.out" 2>"$scratch/app.err" &
+pids+=($!)
+app=$!
+
+report() {
+    echo "--- program stdout"; cat "$scratch/app.out"
+    echo "--- program stderr"; tail -n 40 "$scratch/app.err"
+    echo "--- site log"; cat "$scratch/http.log"
+}
+
+# Wait for whichever comes first: the main window, or the program ending without one.
+timeout "$window_timeout" xdotool search --sync --onlyvisible --name '^Tarnic Pro$' \
+    >"$scratch/windows" 2>/dev/null &
+searcher=$!
+pids+=($searcher)
+wait -n -p first "$app" "$searcher" || true
+if [ "$first" = "$app" ]; then
+    report
+    fail "the program ended before showing its window"
+fi
+window=$(head -n1 "$scratch/windows")
+if [ -z "$window" ]; then
+    report
+    fail "no window named 'Tarnic Pro' appeared within ${window_timeout}s"
+fi
+
+# The version gate fetched the site's file and found a dictionary there.
+if ! timeout "$fetch_timeout" grep -q -m1 'GET /.*tn11\.plist HTTP/1\.[01]" 200' \
+    <(tail -n +1 -F --pid=$$ "$scratch/http.log" 2>/dev/null); then
+    report
+    fail "the program did not fetch tn11.plist from $site_url"
+fi
+
+kill -0 "$app" 2>/dev/null || { report; fail "the program ended after showing its window"; }
+geometry=$(xdotool getwindowgeometry "$window" | sed -n 's/.*Geometry: //p')
+echo "main window $window, $geometry, on display :$display; site $site_url served tn11.plist"
