@@ -54,46 +54,33 @@ cat >"$scratch/site/$path/tn11.plist" <<'PLIST'
 </plist>
 PLIST
 
-# The port is fixed by the build. Another test serving the same site may hold it for a while;
-# wait a bounded time for it, then say plainly what is in the way.
-port_free() {
-    python3 - "$port" <<'PY'
-import socket, sys
-s = socket.socket()
-# As the HTTP server does, so that connections of an earlier run left in TIME_WAIT do not count.
-s.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1)
-try:
-    s.bind(("127.0.0.1", int(sys.argv[1])))
-except OSError:
-    sys.exit(1)
-PY
-}
-deadline=$((SECONDS + port_timeout))
-until port_free; do
-    [ $SECONDS -lt $deadline ] ||
-        fail "port $port on 127.0.0.1 is taken: the program is built to fetch $site_url, so this test must serve it there (free the port, or configure TARNIC_SITE_URL with another loopback port)"
-    sleep 0.5
-done
-
-python3 -u -m http.server --bind 127.0.0.1 --directory "$scratch/site" "$port" \
-    >"$scratch/http.log" 2>&1 &
-pids+=($!)
-server=$!
-# Ready when it answers; bounded.
-python3 - "$site_url/tn11.plist" <<'PY' || fail "the loopback site did not come up on port $port: $(cat "$scratch/http.log")"
-import sys, time, urllib.request
-deadline = time.monotonic() + 20
+# The port is fixed by the build. Another test serving the same site may hold it for a while:
+# the server waits a bounded time for it, then says plainly what is in the way.
+python3 -u - "$port" "$scratch/site" "$port_timeout" >"$scratch/http.log" 2>&1 <<'PY' &
+import functools, http.server, sys, time
+port, root, patience = int(sys.argv[1]), sys.argv[2], float(sys.argv[3])
+handler = functools.partial(http.server.SimpleHTTPRequestHandler, directory=root)
+deadline = time.monotonic() + patience
 while True:
     try:
-        urllib.request.urlopen(sys.argv[1], timeout=2).read()
+        server = http.server.ThreadingHTTPServer(("127.0.0.1", port), handler)
         break
-    except OSError:
+    except OSError as error:
         if time.monotonic() > deadline:
-            sys.exit(1)
-        time.sleep(0.1)
+            print(f"cannot listen on 127.0.0.1:{port}: {error}")
+            sys.exit(3)
+        time.sleep(0.5)
+print(f"serving {root} on 127.0.0.1:{port}")
+server.serve_forever()
 PY
-kill -0 "$server" 2>/dev/null || fail "another server answered on port $port: $(cat "$scratch/http.log")"
-: >"$scratch/http.log"
+pids+=($!)
+server=$!
+timeout $((port_timeout + 10)) grep -q -m1 '^serving ' <(tail -n +1 -F --pid=$server "$scratch/http.log" 2>/dev/null) ||
+    fail "port $port on 127.0.0.1 is taken: the program is built to fetch $site_url, so this test must serve it there (free the port, or configure TARNIC_SITE_URL with another loopback port). $(cat "$scratch/http.log")"
+python3 - "$site_url/" <<'PY' || fail "the loopback site does not answer: $(cat "$scratch/http.log")"
+import sys, urllib.request
+urllib.request.urlopen(sys.argv[1], timeout=10).read()
+PY
 
 # A private X server on a display number it picks itself and reports through a pipe.
 mkfifo "$scratch/displayfd"
