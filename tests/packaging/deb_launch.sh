@@ -129,5 +129,13 @@ if ! timeout "$fetch_timeout" grep -q -m1 'GET /.*tn11\.plist HTTP/1\.[01]" 200'
 fi
 
 kill -0 "$app" 2>/dev/null || { report; fail "the program ended after showing its window"; }
-geometry=$(xdotool getwindowgeometry "$window" | sed -n 's/.*Geometry: //p')
-echo "main window $window, $geometry, on display :$display; site $site_url served tn11.plist"
+# Xvfb offers RECORD, so the program reports that it can watch keys (printed before the fetch).
+grep -qx "AXIsProcessTrusted true" "$scratch/app.out" ||
+    { report; fail "the program did not report 'AXIsProcessTrusted true' on Xvfb"; }
+# The main window, not a message box: those are far smaller than the editor's table and panels.
+read -r width height < <(xwininfo -id "$window" | awk '/Width:/ { w = $2 } /Height:/ { h = $2 } END { print w, h }')
+if [ "${width:-0}" -lt 600 ] || [ "${height:-0}" -lt 400 ]; then
+    report
+    fail "the window named 'Tarnic Pro' is ${width}x${height}: a message box, not the main window"
+fi
+echo "main window $window (${width}x${height}) on display :$display; the site served tn11.plist"
