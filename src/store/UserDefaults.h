@@ -16,13 +16,21 @@ namespace tarnic {
 // array, dictionary) exactly across a round trip.
 QSettings::Format plistSettingsFormat();
 
-// The application's store: "Tarnic Pro.plist" (or similar) in the user's XDG config folder.
-// A store file that cannot be parsed at all is copied aside first (and said so on standard
-// error), then the store starts empty, so the next write cannot destroy what was there.
+// The application's store: "$XDG_CONFIG_HOME/Tarnic/Tarnic Pro.plist" ("~/.config/Tarnic/Tarnic
+// Pro.plist" when XDG_CONFIG_HOME is unset), the very file that
+// QSettings(plistSettingsFormat(), QSettings::UserScope, "Tarnic", "Tarnic Pro") uses. Read
+// afresh from the environment at every call.
+QString userDefaultsPath();
+
+// The application's store, on userDefaultsPath() alone (no organization-wide or system-wide
+// fallback files). A store file that cannot be parsed at all is copied aside first (and said so
+// on standard error), then the store starts empty, so the next write cannot destroy what was
+// there.
 std::unique_ptr<QSettings> openUserDefaults();
 
 // Typed access to the keys the program stores: "mainDic" and "inventoryModel1".."6".
 // A value of the wrong type is a fatal error naming the key, the type expected and the type found.
+// Every change is written to the file at once.
 class UserDefaults {
 public:
     explicit UserDefaults(QSettings& settings);

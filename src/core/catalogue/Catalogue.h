@@ -2,13 +2,19 @@
 
 #include "core/record/AbilityRecord.h"
 
+#include <string>
 #include <vector>
 
 namespace tarnic {
 
 // The 160 abilities in catalogue order, built once on first use and never changed.
 // Index i is row i + 1 of the ability table; indices 0 to 6 are the general commands and
-// Repair, which have no owner.
+// Repair, which have no owner. Each record is also reachable by name (CatalogueRecords.h).
 const std::vector<AbilityRecord>& all_data();
+
+// Transmute's name and copies of its two texts, kept beside the records; nothing reads them.
+inline constexpr char Transmute[] = "Transmute";
+const std::string& ANtm();
+const std::string& ANtmEdit();
 
 } // namespace tarnic

@@ -44,11 +44,11 @@ void InventoryRemapper::action(const InventoryModel& model, int keyPrss) {
     // With a modifier: the last modifier event must have been that very key (so the right
     // Shift, 60, never stands for a left-Shift binding, 56).
     if (isFlag && flagHold == element(model, 1) && keyPrss == element(model, 2)) {
-        inventoryPress(static_cast<int>(element(model, 0)));
+        inventoryPress(element(model, 0));
     }
     // Without a modifier: fires on its key whatever is held. Made independently of the first.
     if (keyPrss == element(model, 2) && element(model, 1) == 0) {
-        inventoryPress(static_cast<int>(element(model, 0)));
+        inventoryPress(element(model, 0));
     }
 }
 
@@ -57,7 +57,7 @@ void InventoryRemapper::eventWithTimer(const FrontmostApplication& frontmost) {
     isWarRun = identifier.has_value() && *identifier == war3ID;
 }
 
-void InventoryRemapper::inventoryPress(int slot) {
+void InventoryRemapper::inventoryPress(std::int64_t slot) {
     const std::optional<std::uint16_t> key = keypadKeyOfSlot(slot);
     if (!key) {
         return;

@@ -35,7 +35,9 @@ public:
     void action(const InventoryModel& model, int keyPrss);
     void eventWithTimer(const FrontmostApplication& frontmost);
 
-    void inventoryPress(int slot);
+    // Any slot other than 1 to 6 posts nothing. The slot is the stored value itself, never
+    // narrowed: a value edited outside the program must not alias a real slot.
+    void inventoryPress(std::int64_t slot);
     void keyboardKeyDown(std::uint16_t key);
     void keyboardKeyUp(std::uint16_t key);
 

@@ -1,0 +1,44 @@
+#include "core/remapper/RemapperSession.h"
+
+#include "core/fatal/Fatal.h"
+
+namespace tarnic {
+
+namespace {
+// A platform is built whole at start-up; a missing piece is a programming error.
+template <typename T> T& required(const std::unique_ptr<T>& part, const char* what) {
+    if (!part) {
+        fatalError(kNilUnwrap, what);
+    }
+    return *part;
+}
+} // namespace
+
+RemapperSession::RemapperSession(const InventoryRemapper::Models& inventoryModels,
+                                 Platform& platform)
+    : platform_(platform),
+      remapper_(std::make_shared<InventoryRemapper>(
+          inventoryModels, required(platform.keyPoster, "the platform has no key poster"))) {
+    required(platform.keyObserver, "the platform has no key observer");
+    required(platform.frontmostApplication, "the platform has no frontmost application");
+}
+
+void RemapperSession::installObservers() {
+    const std::weak_ptr<InventoryRemapper> remapper = remapper_;
+    platform_.keyObserver->addKeyDownMonitor([remapper](int keyCode) {
+        if (const auto alive = remapper.lock()) {
+            alive->keyDown(keyCode);
+        }
+    });
+    platform_.keyObserver->addFlagsChangedMonitor([remapper](int keyCode) {
+        if (const auto alive = remapper.lock()) {
+            alive->flagsChanged(keyCode);
+        }
+    });
+}
+
+void RemapperSession::eventWithTimer() {
+    remapper_->eventWithTimer(*platform_.frontmostApplication);
+}
+
+} // namespace tarnic

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "core/platform/Platform.h"
+#include "platform/fake/FakeAccessibilityTrust.h"
+#include "platform/fake/FakeFrontmostApplication.h"
+#include "platform/fake/FakeKeyObserver.h"
+#include "platform/fake/RecordingKeyPoster.h"
+
+namespace tarnic {
+
+// The fakes behind a Platform, for test code to drive and inspect. Each is null when the
+// platform holds something else in that place.
+struct FakeParts {
+    FakeKeyObserver* keyObserver = nullptr;
+    RecordingKeyPoster* keyPoster = nullptr;
+    FakeFrontmostApplication* frontmostApplication = nullptr;
+    FakeAccessibilityTrust* accessibilityTrust = nullptr;
+};
+
+// A platform made of the recording fakes: trusted, no application frontmost, nothing posted.
+// Its key observer reports nothing while its trust is turned off.
+Platform makeFakePlatform();
+
+// The fakes inside `platform` (for example one that makePlatform() chose at start-up).
+FakeParts fakeParts(const Platform& platform);
+
+} // namespace tarnic

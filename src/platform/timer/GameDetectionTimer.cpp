@@ -1,0 +1,22 @@
+#include "platform/timer/GameDetectionTimer.h"
+
+#include "core/remapper/RemapperSession.h"
+
+namespace tarnic {
+
+GameDetectionTimer::GameDetectionTimer(RemapperSession& session, QObject* parent)
+    : QObject(parent), session_(session) {
+    timer_.setInterval(kIntervalMs);
+    timer_.setSingleShot(false);
+    // Coarse is plenty: nothing depends on the exact moment of a tick.
+    timer_.setTimerType(Qt::CoarseTimer);
+    connect(&timer_, &QTimer::timeout, this, &GameDetectionTimer::eventWithTimer);
+    timer_.start();
+}
+
+void GameDetectionTimer::eventWithTimer() {
+    session_.eventWithTimer();
+    emit ticked();
+}
+
+} // namespace tarnic

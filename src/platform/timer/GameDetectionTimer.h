@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+
+namespace tarnic {
+
+class RemapperSession;
+
+// The remapper's repeating game-detection tick: every 2 seconds, the first 2 seconds after it
+// starts, it lets the session look at the frontmost application. It runs on the thread that
+// created it (the main thread) until it is destroyed.
+class GameDetectionTimer : public QObject {
+    Q_OBJECT
+
+public:
+    static constexpr int kIntervalMs = 2000;
+
+    // Starts at once. `session` must outlive the timer.
+    explicit GameDetectionTimer(RemapperSession& session, QObject* parent = nullptr);
+
+    const QTimer& timer() const { return timer_; }
+
+signals:
+    // After each tick, once the session has been told.
+    void ticked();
+
+private:
+    void eventWithTimer();
+
+    RemapperSession& session_;
+    QTimer timer_;
+};
+
+} // namespace tarnic

@@ -1,0 +1,30 @@
+#include "shell/VersionGate.h"
+
+#include "shell/BlockingHttpGet.h"
+#include "shell/VersionSupport.h"
+
+namespace tarnic {
+
+QUrl versionSupportUrl(const QString& siteUrl) {
+    QString base = siteUrl.trimmed();
+    while (base.endsWith(QLatin1Char('/'))) {
+        base.chop(1);
+    }
+    QUrl url(base + QStringLiteral("/tn11.plist"), QUrl::StrictMode);
+    if (!url.isValid() || url.scheme().isEmpty() || url.host().isEmpty()) {
+        return {};
+    }
+    return url;
+}
+
+VersionGateResult checkVersionSupport(const QString& siteUrl) {
+    const QUrl url = versionSupportUrl(siteUrl);
+    if (!url.isValid()) {
+        return VersionGateResult::NoUrl;
+    }
+    const auto body = BlockingHttpGet().get(url);
+    return body && isVersionSupportDictionary(*body) ? VersionGateResult::Passed
+                                                     : VersionGateResult::Failed;
+}
+
+} // namespace tarnic

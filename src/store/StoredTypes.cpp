@@ -1,0 +1,159 @@
+#include "store/StoredTypes.h"
+
+#include <QStringList>
+
+#include <limits>
+#include <optional>
+
+namespace tarnic {
+
+namespace {
+
+bool isList(const QVariant& value) {
+    const int type = value.typeId();
+    return type == QMetaType::QVariantList || type == QMetaType::QStringList;
+}
+
+bool isDictionary(const QVariant& value) {
+    const int type = value.typeId();
+    return type == QMetaType::QVariantMap || type == QMetaType::QVariantHash;
+}
+
+// The value as a signed 64-bit integer when it is an integer of any width that fits.
+std::optional<std::int64_t> integerValue(const QVariant& value) {
+    switch (value.typeId()) {
+    case QMetaType::Int:
+    case QMetaType::Long:
+    case QMetaType::LongLong:
+    case QMetaType::Short:
+    case QMetaType::SChar:
+        return value.toLongLong();
+    case QMetaType::UInt:
+    case QMetaType::ULong:
+    case QMetaType::ULongLong:
+    case QMetaType::UShort:
+    case QMetaType::UChar: {
+        const qulonglong unsignedValue = value.toULongLong();
+        if (unsignedValue > static_cast<qulonglong>(std::numeric_limits<std::int64_t>::max())) {
+            return std::nullopt;
+        }
+        return static_cast<std::int64_t>(unsignedValue);
+    }
+    default:
+        return std::nullopt;
+    }
+}
+
+std::optional<AbilityRecord> recordFromStored(const QVariant& value, WrongType& wrong) {
+    if (!isDictionary(value)) {
+        wrong.found = "array containing " + storedTypeName(value);
+        return std::nullopt;
+    }
+    AbilityRecord record;
+    const QVariantMap map = value.toMap();
+    for (auto it = map.cbegin(); it != map.cend(); ++it) {
+        if (it.value().typeId() != QMetaType::QString) {
+            wrong.found = "array containing dictionary with " + storedTypeName(it.value()) +
+                          " value under \"" + it.key().toStdString() + "\"";
+            return std::nullopt;
+        }
+        record.emplace(it.key().toStdString(), it.value().toString().toStdString());
+    }
+    return record;
+}
+
+} // namespace
+
+std::string storedTypeName(const QVariant& value) {
+    switch (value.typeId()) {
+    case QMetaType::UnknownType:
+        return "nothing";
+    case QMetaType::QString:
+        return "string";
+    case QMetaType::Bool:
+        return "boolean";
+    case QMetaType::Double:
+    case QMetaType::Float:
+        return "real";
+    case QMetaType::QByteArray:
+        return "data";
+    case QMetaType::QDateTime:
+    case QMetaType::QDate:
+        return "date";
+    case QMetaType::QVariantList:
+    case QMetaType::QStringList:
+        return "array";
+    case QMetaType::QVariantMap:
+    case QMetaType::QVariantHash:
+        return "dictionary";
+    default:
+        if (integerValue(value) || value.typeId() == QMetaType::ULongLong ||
+            value.typeId() == QMetaType::ULong) {
+            return "integer";
+        }
+        return value.metaType().name();
+    }
+}
+
+std::variant<std::vector<AbilityRecord>, WrongType> abilityListFromStored(const QVariant& value) {
+    if (!isList(value)) {
+        return WrongType{storedTypeName(value)};
+    }
+    const QVariantList items = value.toList();
+    std::vector<AbilityRecord> list;
+    list.reserve(static_cast<std::size_t>(items.size()));
+    WrongType wrong;
+    for (const QVariant& item : items) {
+        std::optional<AbilityRecord> record = recordFromStored(item, wrong);
+        if (!record) {
+            return wrong;
+        }
+        list.push_back(std::move(*record));
+    }
+    return list;
+}
+
+QVariant abilityListToStored(const std::vector<AbilityRecord>& list) {
+    QVariantList items;
+    items.reserve(static_cast<qsizetype>(list.size()));
+    for (const AbilityRecord& record : list) {
+        QVariantMap map;
+        for (const auto& [key, text] : record) {
+            map.insert(QString::fromStdString(key), QString::fromStdString(text));
+        }
+        items.append(map);
+    }
+    return items;
+}
+
+std::variant<InventoryModel, WrongType> inventoryModelFromStored(const QVariant& value) {
+    if (!isList(value)) {
+        return WrongType{storedTypeName(value)};
+    }
+    const QVariantList items = value.toList();
+    InventoryModel model;
+    model.reserve(static_cast<std::size_t>(items.size()));
+    for (const QVariant& item : items) {
+        const std::optional<std::int64_t> number = integerValue(item);
+        if (!number) {
+            std::string found = storedTypeName(item);
+            if (found == "integer") {
+                found += " beyond the 64-bit range";
+            }
+            return WrongType{"array containing " + found};
+        }
+        model.push_back(*number);
+    }
+    return model;
+}
+
+QVariant inventoryModelToStored(const InventoryModel& model) {
+    QVariantList items;
+    items.reserve(static_cast<qsizetype>(model.size()));
+    for (const std::int64_t number : model) {
+        items.append(QVariant::fromValue<qint64>(number));
+    }
+    return items;
+}
+
+} // namespace tarnic

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "core/record/AbilityRecord.h"
+#include "core/remapper/InventoryRemapper.h"
+
+#include <QVariant>
+
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace tarnic {
+
+// Reading stored values as the types the program keeps, without touching any file: what the
+// store holds comes in as a QVariant, with the types the property list gave it.
+
+// What was found where another type was expected, in property-list words: "string", "integer",
+// "array containing string", "array containing dictionary with integer value under \"name\"".
+struct WrongType {
+    std::string found;
+};
+
+// The property-list name of a value's type: "string", "integer", "real", "boolean", "data",
+// "date", "array", "dictionary"; any other Qt type by its Qt type name.
+std::string storedTypeName(const QVariant& value);
+
+// An array of dictionaries whose values are all strings.
+std::variant<std::vector<AbilityRecord>, WrongType> abilityListFromStored(const QVariant& value);
+QVariant abilityListToStored(const std::vector<AbilityRecord>& list);
+
+// An array of integers, of any length and range.
+std::variant<InventoryModel, WrongType> inventoryModelFromStored(const QVariant& value);
+QVariant inventoryModelToStored(const InventoryModel& model);
+
+} // namespace tarnic

@@ -1,0 +1,74 @@
+#include "store/UserDefaults.h"
+
+#include "core/fatal/Fatal.h"
+#include "store/StoredTypes.h"
+
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace tarnic {
+
+namespace {
+
+const QString kMainDic = QStringLiteral("mainDic");
+
+QString inventoryModelKey(int slot) {
+    return QStringLiteral("inventoryModel") + QString::number(slot);
+}
+
+// Stored values are trusted: one of the wrong type means the file was edited by hand or by
+// something else, and guessing what was meant could overwrite the player's data.
+[[noreturn]] void wrongType(const QSettings& settings, const QString& key,
+                            std::string_view expected, const std::string& found) {
+    const std::string detail = "key \"" + key.toStdString() + "\" in \"" +
+                               settings.fileName().toStdString() + "\": expected " +
+                               std::string(expected) + ", found " + found;
+    fatalError("Stored value of the wrong type", detail);
+}
+
+} // namespace
+
+UserDefaults::UserDefaults(QSettings& settings) : settings_(settings) {}
+
+std::optional<std::vector<AbilityRecord>> UserDefaults::mainDic() const {
+    const QVariant stored = settings_.value(kMainDic);
+    if (!stored.isValid()) {
+        return std::nullopt;
+    }
+    auto read = abilityListFromStored(stored);
+    if (const auto* wrong = std::get_if<WrongType>(&read)) {
+        wrongType(settings_, kMainDic, "array of dictionaries of strings", wrong->found);
+    }
+    return std::get<std::vector<AbilityRecord>>(std::move(read));
+}
+
+void UserDefaults::setMainDic(const std::vector<AbilityRecord>& list) {
+    settings_.setValue(kMainDic, abilityListToStored(list));
+    settings_.sync();
+}
+
+std::optional<InventoryModel> UserDefaults::inventoryModel(int slot) const {
+    const QString key = inventoryModelKey(slot);
+    const QVariant stored = settings_.value(key);
+    if (!stored.isValid()) {
+        return std::nullopt;
+    }
+    auto read = inventoryModelFromStored(stored);
+    if (const auto* wrong = std::get_if<WrongType>(&read)) {
+        wrongType(settings_, key, "array of integers", wrong->found);
+    }
+    return std::get<InventoryModel>(std::move(read));
+}
+
+void UserDefaults::setInventoryModel(int slot, const InventoryModel& model) {
+    settings_.setValue(inventoryModelKey(slot), inventoryModelToStored(model));
+    settings_.sync();
+}
+
+void UserDefaults::removeInventoryModel(int slot) {
+    settings_.remove(inventoryModelKey(slot));
+    settings_.sync();
+}
+
+} // namespace tarnic

@@ -1,0 +1,71 @@
+// A binding cut short outside the program (fewer than three elements) cannot be read: the
+// program stops with the index-out-of-range message at the first key press tested against it,
+// and not before.
+#include "core/remapper/RemapperSession.h"
+#include "platform/fake/FakePlatform.h"
+
+#include <gtest/gtest.h>
+
+namespace tarnic {
+namespace {
+
+class RemapperDeathTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        GTEST_FLAG_SET(death_test_style, "threadsafe");
+        session.installObservers();
+    }
+
+    Platform platform = makeFakePlatform();
+    FakeParts fakes = fakeParts(platform);
+    InventoryRemapper::Models models;
+    RemapperSession session{models, platform};
+};
+
+TEST_F(RemapperDeathTest, TwoElementBindingEndsTheProgramAtTheFirstKeyPress) {
+    models[2] = {3, 0};
+    EXPECT_DEATH(fakes.keyObserver->pressKey(12), "Fatal error: Index out of range");
+}
+
+TEST_F(RemapperDeathTest, OneElementBindingEndsTheProgramWithAModifierHeld) {
+    models[0] = {1};
+    fakes.keyObserver->changeModifier(56);
+    EXPECT_DEATH(fakes.keyObserver->pressKey(0), "Fatal error: Index out of range");
+}
+
+TEST_F(RemapperDeathTest, AnyKeyIsTestedAgainstTheShortBinding) {
+    // Not only the key it might have named: every press reads every binding.
+    models[5] = {6, 56};
+    EXPECT_DEATH(fakes.keyObserver->pressKey(65535), "Index out of range");
+}
+
+TEST_F(RemapperDeathTest, WellFormedBindingsAroundItDoNotSaveIt) {
+    models[0] = {1, 0, 12};
+    models[1] = {2, 0};
+    models[2] = {3, 0, 12};
+    EXPECT_DEATH(fakes.keyObserver->pressKey(12), "Index out of range");
+    // Without the short binding the same press taps both others.
+    models[1] = {};
+    fakes.keyObserver->pressKey(12);
+    EXPECT_EQ(fakes.keyPoster->posts(),
+              (std::vector<std::string>{"89 down", "89 up", "86 down", "86 up"}));
+}
+
+TEST_F(RemapperDeathTest, ShortBindingIsHarmlessUntilAKeyIsPressed) {
+    models[3] = {4, 56};
+    fakes.keyObserver->changeModifier(56);
+    fakes.keyObserver->changeModifier(56);
+    fakes.frontmostApplication->setBundleIdentifier("com.blizzard.WarcraftIII");
+    session.eventWithTimer();
+    EXPECT_TRUE(session.remapper().isWarRun);
+    EXPECT_TRUE(fakes.keyPoster->posts().empty());
+}
+
+TEST_F(RemapperDeathTest, KeysInOwnWindowNeverReachTheShortBinding) {
+    models[0] = {1, 0};
+    fakes.keyObserver->setOwnApplicationFrontmost(true);
+    EXPECT_FALSE(fakes.keyObserver->pressKey(12));
+}
+
+} // namespace
+} // namespace tarnic

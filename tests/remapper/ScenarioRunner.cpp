@@ -1,0 +1,73 @@
+#include "ScenarioRunner.h"
+
+#include "core/remapper/RemapperSession.h"
+#include "platform/fake/FakePlatform.h"
+
+namespace tarnic::test {
+
+namespace {
+
+std::string stateLine(const InventoryRemapper& remapper) {
+    return "state flagHold=" + std::to_string(remapper.flagHold) +
+           " isFlag=" + (remapper.isFlag ? "true" : "false") +
+           " isWarRun=" + (remapper.isWarRun ? "true" : "false");
+}
+
+} // namespace
+
+std::vector<std::string> runScenario(const Scenario& scenario) {
+    using Kind = ScenarioStep::Kind;
+    Platform platform = makeFakePlatform();
+    const FakeParts fakes = fakeParts(platform);
+    InventoryRemapper::Models models;
+    RemapperSession session(models, platform);
+    session.installObservers();
+
+    std::vector<std::string> transcript;
+    std::size_t postsSeen = 0;
+    for (const ScenarioStep& step : scenario.steps) {
+        switch (step.kind) {
+        case Kind::Model:
+            models.at(static_cast<std::size_t>(step.number - 1)) = step.values;
+            break;
+        case Kind::Down:
+            fakes.keyObserver->pressKey(static_cast<int>(step.number));
+            break;
+        case Kind::Flags:
+            fakes.keyObserver->changeModifier(static_cast<int>(step.number));
+            break;
+        case Kind::Front:
+            fakes.frontmostApplication->setBundleIdentifier(
+                step.hasIdentifier ? std::optional<std::string>(step.identifier) : std::nullopt);
+            break;
+        case Kind::Tick:
+            session.eventWithTimer();
+            break;
+        case Kind::OwnWindow:
+            fakes.keyObserver->setOwnApplicationFrontmost(step.on);
+            break;
+        case Kind::Trust:
+            fakes.accessibilityTrust->setTrusted(step.on);
+            break;
+        case Kind::FailNextDown:
+            fakes.keyPoster->failNextKeyDown();
+            break;
+        case Kind::Slot:
+            session.remapper().inventoryPress(step.number);
+            break;
+        case Kind::State:
+            break;
+        }
+        // The posts this step caused, then (for "state") the state after it.
+        const std::vector<std::string>& posts = fakes.keyPoster->posts();
+        transcript.insert(transcript.end(), posts.begin() + static_cast<std::ptrdiff_t>(postsSeen),
+                          posts.end());
+        postsSeen = posts.size();
+        if (step.kind == Kind::State) {
+            transcript.push_back(stateLine(session.remapper()));
+        }
+    }
+    return transcript;
+}
+
+} // namespace tarnic::test

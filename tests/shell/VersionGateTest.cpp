@@ -1,0 +1,133 @@
+#include "shell/VersionGate.h"
+
+#include "shell/BlockingHttpGet.h"
+#include "shell/LoopbackHttpServer.h"
+#include "shell/PlistSamples.h"
+#include "shell/SiteAddress.h"
+
+#include "shell/QtPrinting.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <ostream>
+
+namespace tarnic {
+
+// Readable names in failure messages.
+void PrintTo(VersionGateResult result, std::ostream* out) {
+    switch (result) {
+    case VersionGateResult::NoUrl:
+        *out << "NoUrl";
+        return;
+    case VersionGateResult::Passed:
+        *out << "Passed";
+        return;
+    case VersionGateResult::Failed:
+        *out << "Failed";
+        return;
+    }
+}
+
+namespace {
+
+TEST(VersionSupportUrl, IsTheFileDirectlyUnderTheSiteRoot) {
+    EXPECT_EQ(versionSupportUrl("http://127.0.0.1:8765").toString(),
+              "http://127.0.0.1:8765/tn11.plist");
+    EXPECT_EQ(versionSupportUrl("http://tarnic.example/").toString(),
+              "http://tarnic.example/tn11.plist");
+}
+
+TEST(VersionSupportUrl, BuiltInSiteIsTheOneTheBuildNames) {
+    EXPECT_EQ(siteBaseUrl(), TARNIC_SITE_URL);
+    EXPECT_EQ(versionSupportUrl(siteBaseUrl()).path(), "/tn11.plist");
+    EXPECT_EQ(versionSupportUrl(siteBaseUrl()).scheme(), "http");
+}
+
+TEST(VersionSupportUrl, SiteTextThatIsNoUrlGivesNone) {
+    EXPECT_FALSE(versionSupportUrl("").isValid());
+    EXPECT_FALSE(versionSupportUrl("not a url").isValid());
+    EXPECT_FALSE(versionSupportUrl("127.0.0.1:8765").isValid());
+    EXPECT_FALSE(versionSupportUrl("http://").isValid());
+    EXPECT_FALSE(versionSupportUrl("http://exa mple.com").isValid());
+}
+
+TEST(VersionGate, SiteTextThatIsNoUrlChecksNothing) {
+    EXPECT_EQ(checkVersionSupport("no url here"), VersionGateResult::NoUrl);
+}
+
+TEST(VersionGate, ClosedPortFails) {
+    const quint16 port = test::closedLoopbackPort();
+    ASSERT_NE(port, 0);
+    EXPECT_EQ(checkVersionSupport(QStringLiteral("http://127.0.0.1:%1").arg(port)),
+              VersionGateResult::Failed);
+}
+
+struct ServedCase {
+    const char* name;
+    std::function<QByteArray()> body;
+    int status;
+    VersionGateResult expected;
+};
+
+void PrintTo(const ServedCase& served, std::ostream* out) {
+    *out << served.name;
+}
+
+class VersionGateServed : public ::testing::TestWithParam<ServedCase> {};
+
+TEST_P(VersionGateServed, GivesTheExpectedAnswer) {
+    const ServedCase& served = GetParam();
+    test::LoopbackHttpServer server;
+    ASSERT_TRUE(server.listen());
+    server.serve("/tn11.plist", served.body(), served.status);
+
+    EXPECT_EQ(checkVersionSupport(server.baseUrl()), served.expected);
+    EXPECT_EQ(server.requestedPaths(), QStringList{"/tn11.plist"});
+}
+
+constexpr qsizetype kMiB = BlockingHttpGet::kMaxBodyBytes;
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, VersionGateServed,
+    ::testing::Values(
+        ServedCase{"XmlDictionary", test::xmlDictionary, 200, VersionGateResult::Passed},
+        ServedCase{"EmptyDictionary", test::xmlEmptyDictionary, 200, VersionGateResult::Passed},
+        ServedCase{"BinaryDictionary", test::binaryDictionary, 200, VersionGateResult::Passed},
+        ServedCase{"DictionaryOfExactlyTheLimit", [] { return test::xmlDictionaryOfSize(kMiB); },
+                   200, VersionGateResult::Passed},
+        ServedCase{"XmlArray", test::xmlArray, 200, VersionGateResult::Failed},
+        ServedCase{"BinaryArray", test::binaryArray, 200, VersionGateResult::Failed},
+        ServedCase{"Garbage", test::garbage, 200, VersionGateResult::Failed},
+        ServedCase{"EmptyBody", [] { return QByteArray(); }, 200, VersionGateResult::Failed},
+        ServedCase{"NotFound", test::garbage, 404, VersionGateResult::Failed},
+        ServedCase{"DictionaryWithNotFound", test::xmlDictionary, 404, VersionGateResult::Failed},
+        ServedCase{"ServerError", test::xmlDictionary, 500, VersionGateResult::Failed},
+        ServedCase{"DictionaryOverTheLimit", [] { return test::xmlDictionaryOfSize(kMiB + 1); },
+                   200, VersionGateResult::Failed},
+        ServedCase{"HugeDictionary", [] { return test::xmlDictionaryOfSize(8 * kMiB); }, 200,
+                   VersionGateResult::Failed}),
+    [](const ::testing::TestParamInfo<ServedCase>& info) { return std::string(info.param.name); });
+
+TEST(VersionGate, MissingFileOnTheServerFails) {
+    test::LoopbackHttpServer server;
+    ASSERT_TRUE(server.listen());
+    server.serve("/other.plist", test::xmlDictionary());
+
+    EXPECT_EQ(checkVersionSupport(server.baseUrl()), VersionGateResult::Failed);
+    EXPECT_EQ(server.requestedPaths(), QStringList{"/tn11.plist"});
+}
+
+TEST(BlockingHttpGet, ReturnsTheBodyUnchanged) {
+    test::LoopbackHttpServer server;
+    ASSERT_TRUE(server.listen());
+    const QByteArray body = test::binaryDictionary();
+    server.serve("/file", body);
+
+    const auto fetched = BlockingHttpGet().get(QUrl(server.baseUrl() + "/file"));
+    ASSERT_TRUE(fetched.has_value());
+    EXPECT_EQ(*fetched, body);
+}
+
+} // namespace
+} // namespace tarnic

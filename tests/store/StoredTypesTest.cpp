@@ -1,0 +1,91 @@
+#include "store/StoredTypes.h"
+
+#include <gtest/gtest.h>
+
+namespace tarnic {
+namespace {
+
+QVariant integer(qint64 value) {
+    return QVariant::fromValue<qint64>(value);
+}
+
+std::string foundForList(const QVariant& value) {
+    auto read = abilityListFromStored(value);
+    const auto* wrong = std::get_if<WrongType>(&read);
+    return wrong ? wrong->found : std::string("(accepted)");
+}
+
+std::string foundForModel(const QVariant& value) {
+    auto read = inventoryModelFromStored(value);
+    const auto* wrong = std::get_if<WrongType>(&read);
+    return wrong ? wrong->found : std::string("(accepted)");
+}
+
+TEST(StoredTypes, NamesTypesInPropertyListWords) {
+    EXPECT_EQ(storedTypeName(QStringLiteral("5")), "string");
+    EXPECT_EQ(storedTypeName(integer(5)), "integer");
+    EXPECT_EQ(storedTypeName(5), "integer");
+    EXPECT_EQ(storedTypeName(5u), "integer");
+    EXPECT_EQ(storedTypeName(5.0), "real");
+    EXPECT_EQ(storedTypeName(true), "boolean");
+    EXPECT_EQ(storedTypeName(QByteArray("x")), "data");
+    EXPECT_EQ(storedTypeName(QVariantList{}), "array");
+    EXPECT_EQ(storedTypeName(QVariantMap{}), "dictionary");
+}
+
+TEST(StoredTypes, AbilityListKeepsMissingAndEmptyKeysApart) {
+    const AbilityRecord general{{"name", "Attack"}, {"def hotkey", "A"}, {"new hotkey", ""}};
+    const AbilityRecord owned{{"name", "Holy Light"}, {"name parent", "Paladin"}};
+    const AbilityRecord emptyParent{{"name", "Odd"}, {"name parent", ""}};
+    const std::vector<AbilityRecord> list{general, owned, emptyParent, AbilityRecord{}};
+    auto read = abilityListFromStored(abilityListToStored(list));
+    ASSERT_TRUE(std::holds_alternative<std::vector<AbilityRecord>>(read));
+    const auto& back = std::get<std::vector<AbilityRecord>>(read);
+    EXPECT_EQ(back, list);
+    EXPECT_FALSE(back[0].contains("name parent"));
+    ASSERT_TRUE(back[2].contains("name parent"));
+    EXPECT_EQ(back[2].at("name parent"), "");
+}
+
+TEST(StoredTypes, AbilityListNamesWhatWasFoundInstead) {
+    EXPECT_EQ(foundForList(QStringLiteral("list")), "string");
+    EXPECT_EQ(foundForList(integer(1)), "integer");
+    EXPECT_EQ(foundForList(QVariantMap{}), "dictionary");
+    EXPECT_EQ(foundForList(QVariantList{integer(1), integer(2)}), "array containing integer");
+    EXPECT_EQ(foundForList(QVariantList{QVariantMap{}, QVariantList{}}), "array containing array");
+    EXPECT_EQ(foundForList(QVariantList{QVariantMap{{QStringLiteral("name"), integer(5)}}}),
+              "array containing dictionary with integer value under \"name\"");
+    EXPECT_EQ(foundForList(QVariantList{QVariantMap{{QStringLiteral("a"), QStringLiteral("x")},
+                                                    {QStringLiteral("b"), true}}}),
+              "array containing dictionary with boolean value under \"b\"");
+    EXPECT_EQ(foundForList(QVariantList{}), "(accepted)");
+}
+
+TEST(StoredTypes, InventoryModelIsAnyArrayOfIntegers) {
+    const InventoryModel model{3, 0, 12};
+    auto read = inventoryModelFromStored(inventoryModelToStored(model));
+    ASSERT_TRUE(std::holds_alternative<InventoryModel>(read));
+    EXPECT_EQ(std::get<InventoryModel>(read), model);
+    // Length and range are not checked here.
+    auto odd = inventoryModelFromStored(
+        QVariantList{integer(5), integer(56), integer(999), integer(-7), 4});
+    ASSERT_TRUE(std::holds_alternative<InventoryModel>(odd));
+    EXPECT_EQ(std::get<InventoryModel>(odd), (InventoryModel{5, 56, 999, -7, 4}));
+    auto empty = inventoryModelFromStored(QVariantList{});
+    ASSERT_TRUE(std::holds_alternative<InventoryModel>(empty));
+    EXPECT_TRUE(std::get<InventoryModel>(empty).empty());
+}
+
+TEST(StoredTypes, InventoryModelNamesWhatWasFoundInstead) {
+    EXPECT_EQ(foundForModel(QStringLiteral("5")), "string");
+    EXPECT_EQ(foundForModel(integer(5)), "integer");
+    EXPECT_EQ(foundForModel(QVariantList{QStringLiteral("3"), QStringLiteral("0")}),
+              "array containing string");
+    EXPECT_EQ(foundForModel(QVariantList{integer(3), 2.5}), "array containing real");
+    EXPECT_EQ(foundForModel(QVariantList{integer(3), true}), "array containing boolean");
+    EXPECT_EQ(foundForModel(QVariantList{QVariant::fromValue<qulonglong>(~0ULL)}),
+              "array containing integer beyond the 64-bit range");
+}
+
+} // namespace
+} // namespace tarnic
