@@ -1,10 +1,21 @@
-#include "core/catalogue/Catalogue.h"
+#include "gui/MainWindow.h"
+#include "gui/ViewController.h"
+#include "store/UserDefaults.h"
 
-#include <cstdio>
+#include <QApplication>
 
-// Until the main window exists this only proves that the build works: it reports the size of
-// the built-in ability catalogue.
-int main() {
-    std::printf("Tarnic Pro: %zu abilities in the catalogue\n", tarnic::all_data().size());
-    return 0;
+int main(int argc, char* argv[]) {
+    QApplication app(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("Tarnic"));
+    QApplication::setApplicationName(QStringLiteral("Tarnic Pro"));
+
+    const std::unique_ptr<QSettings> store = tarnic::openUserDefaults();
+    tarnic::ViewController controller(*store);
+    tarnic::MainWindow window;
+    window.connectController(controller);
+    controller.viewDidLoad();
+    window.show();
+    controller.viewDidAppear();
+
+    return QApplication::exec();
 }

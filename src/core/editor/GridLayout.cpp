@@ -1,0 +1,52 @@
+#include "core/editor/GridLayout.h"
+
+#include "core/fatal/Fatal.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace tarnic {
+
+namespace {
+
+std::optional<std::string> ownerOf(const AbilityRecord& record) {
+    const std::string* owner = field(record, name_parent);
+    return owner == nullptr ? std::nullopt : std::optional<std::string>(*owner);
+}
+
+} // namespace
+
+void allQWER(std::vector<AbilityRecord>& list) {
+    std::optional<std::string> previousOwner = std::string();
+    std::int64_t run = 0;
+    for (std::size_t i = kFirstLaidOutIndex; i < list.size(); ++i) {
+        AbilityRecord& record = list[i];
+        fillTemplate(record, "Q");
+        std::optional<std::string> owner = ownerOf(record);
+        if (owner != previousOwner) {
+            run = 0;
+        } else {
+            if (__builtin_add_overflow(run, 1, &run)) {
+                fatalError("Arithmetic overflow", "grid layout run counter");
+            }
+            switch (run) {
+            case 1:
+                fillTemplate(record, "W");
+                break;
+            case 2:
+                fillTemplate(record, "E");
+                break;
+            case 3:
+                fillTemplate(record, "R");
+                break;
+            default:
+                // There is no fifth letter: the fifth and later abilities keep Q.
+                break;
+            }
+        }
+        previousOwner = std::move(owner);
+    }
+}
+
+} // namespace tarnic

@@ -1,0 +1,46 @@
+#include "core/editor/InventoryBinding.h"
+
+#include "core/fatal/Fatal.h"
+#include "core/vocabulary/KeyCodes.h"
+
+namespace tarnic {
+
+InventoryDisplay displayOf(const InventoryModel& model) {
+    InventoryDisplay shown{select, false};
+    if (model.empty()) {
+        return shown;
+    }
+    if (model.size() < 3) {
+        fatalError(kIndexOutOfRange,
+                   "inventory binding has " + std::to_string(model.size()) + " elements, needs 3");
+    }
+    for (const auto& [code, label] : key_codes()) {
+        if (code == model[2]) {
+            shown.title = label;
+        }
+    }
+    shown.shift = model[1] != kNoModifier;
+    return shown;
+}
+
+std::int64_t triggerCodeOf(std::string_view title) {
+    std::int64_t code = kNoKey;
+    for (const auto& [keyCode, label] : key_codes()) {
+        if (label == title) {
+            code = keyCode;
+        }
+    }
+    return code;
+}
+
+std::optional<InventoryModel> bindingFrom(std::int64_t editing, std::string_view title,
+                                          bool shift) {
+    const std::int64_t key = triggerCodeOf(title);
+    const std::int64_t modifier = shift ? kShiftModifier : kNoModifier;
+    if (editing < 1 || editing > 6) {
+        return std::nullopt;
+    }
+    return InventoryModel{editing, modifier, key};
+}
+
+} // namespace tarnic

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "core/remapper/InventoryRemapper.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tarnic {
+
+// Modifier codes a binding can hold: Shift's virtual key code, or none.
+inline constexpr std::int64_t kShiftModifier = 56;
+inline constexpr std::int64_t kNoModifier = 0;
+// Trigger code of a binding whose pop-up title names no key ("Select").
+inline constexpr std::int64_t kNoKey = -1;
+
+// What the inventory controls show for a binding.
+struct InventoryDisplay {
+    std::string title; // pop-up title: the bound key's label, or "Select"
+    bool shift = false;
+};
+
+// An empty model shows "Select" and an unticked box. Otherwise the key's label (or "Select" when
+// the code has none) and the box ticked for any modifier but 0. A non-empty model shorter than
+// three elements is broken and ends the program.
+InventoryDisplay displayOf(const InventoryModel& model);
+
+// The code of the key whose label is `title`, or kNoKey.
+std::int64_t triggerCodeOf(std::string_view title);
+
+// The binding the controls describe for slot `editing` (1 to 6): [slot, modifier, key code].
+// Any other slot (0: none chosen yet) gives nothing to keep.
+std::optional<InventoryModel> bindingFrom(std::int64_t editing, std::string_view title, bool shift);
+
+} // namespace tarnic

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "core/record/AbilityRecord.h"
+
+#include <QAbstractTableModel>
+#include <QStringList>
+
+#include <vector>
+
+namespace tarnic {
+
+// Shows a list of ability records one per row, in list order. Each column is identified by a
+// record key and shows that key's value; a record without the key shows an empty cell.
+// The model reads the list it is given and never changes it; after the owner changes the list,
+// reload() tells the views.
+class AbilityTableModel : public QAbstractTableModel {
+    Q_OBJECT
+public:
+    AbilityTableModel(const std::vector<AbilityRecord>& list, QObject* parent = nullptr);
+
+    // The columns: record keys and their header titles, in order.
+    void setColumns(const QStringList& identifiers, const QStringList& titles);
+    QStringList columnIdentifiers() const { return identifiers_; }
+
+    // Brings the views in line with the list after it changed.
+    void reload();
+    // One record changed in place.
+    void rowChanged(int row);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation,
+                        int role = Qt::DisplayRole) const override;
+
+private:
+    const std::vector<AbilityRecord>& list_;
+    QStringList identifiers_;
+    QStringList titles_;
+    // The row count the views were last told; the list may already have changed.
+    int rows_ = 0;
+};
+
+} // namespace tarnic

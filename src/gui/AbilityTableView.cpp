@@ -1,0 +1,63 @@
+#include "gui/AbilityTableView.h"
+
+#include <QHeaderView>
+
+namespace tarnic {
+
+AbilityTableView::AbilityTableView(QWidget* parent) : QTableView(parent) {
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setAlternatingRowColors(true);
+    setShowGrid(false);
+    setWordWrap(false);
+    verticalHeader()->hide();
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void AbilityTableView::setModel(QAbstractItemModel* model) {
+    QTableView::setModel(model);
+    // The first column (the ability) takes the room; the others fit their contents.
+    QHeaderView* header = horizontalHeader();
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header->setStretchLastSection(false);
+    if (model != nullptr && model->columnCount() > 0) {
+        header->setSectionResizeMode(0, QHeaderView::Stretch);
+    }
+}
+
+QItemSelectionModel::SelectionFlags AbilityTableView::selectionCommand(const QModelIndex& index,
+                                                                       const QEvent* event) const {
+    QItemSelectionModel::SelectionFlags flags = QTableView::selectionCommand(index, event);
+    if (flags.testAnyFlags(QItemSelectionModel::Deselect | QItemSelectionModel::Toggle)) {
+        return index.isValid() ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+                               : QItemSelectionModel::NoUpdate;
+    }
+    if (!index.isValid() && flags.testFlag(QItemSelectionModel::Clear)) {
+        return QItemSelectionModel::NoUpdate;
+    }
+    return flags;
+}
+
+void selectRow(QTableView& table, int row) {
+    QAbstractItemModel* model = table.model();
+    if (model == nullptr || row < 0 || row >= model->rowCount()) {
+        return;
+    }
+    const QModelIndex index = model->index(row, 0);
+    table.selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect |
+                                                       QItemSelectionModel::Rows);
+    emit table.clicked(index);
+}
+
+int selectedRow(const QTableView& table) {
+    const QItemSelectionModel* selection = table.selectionModel();
+    if (selection == nullptr) {
+        return -1;
+    }
+    const QModelIndexList rows = selection->selectedRows();
+    return rows.isEmpty() ? -1 : rows.last().row();
+}
+
+} // namespace tarnic

@@ -1,0 +1,58 @@
+#include "gui/MainWindow.h"
+
+#include "gui/ViewController.h"
+#include "ui_MainWindow.h"
+
+namespace tarnic {
+
+MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui_(new Ui::MainWindow) {
+    ui_->setupUi(this);
+    // The inventory key controls appear once a slot is chosen; they keep their room meanwhile
+    // so that the panel does not jump.
+    for (QWidget* control :
+         {static_cast<QWidget*>(ui_->inventPopup), static_cast<QWidget*>(ui_->isShiftBox),
+          static_cast<QWidget*>(ui_->delBTN)}) {
+        QSizePolicy policy = control->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        control->setSizePolicy(policy);
+        control->hide();
+    }
+    // Quitting is closing the main window.
+    connect(ui_->actionQuit, &QAction::triggered, this, &QWidget::close);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::connectController(ViewController& c) {
+    Ui::MainWindow& w = *ui_;
+    c.tableView = w.tableView;
+    c.spellImage = w.spellImage;
+    c.spellLbl = w.spellLbl;
+    c.parentImage = w.parentImage;
+    c.parentLbl = w.parentLbl;
+    c.defHotkey = w.defHotkey;
+    c.keysPopup = w.keysPopup;
+    c.inventPopup = w.inventPopup;
+    c.isShiftBox = w.isShiftBox;
+    c.delBTN = w.delBTN;
+
+    connect(w.keysPopup, &QComboBox::activated, &c, &ViewController::setKey);
+    connect(w.resetButton, &QPushButton::clicked, &c, &ViewController::resetToDef);
+    connect(w.gridButton, &QPushButton::clicked, &c, &ViewController::allQWER);
+    connect(w.exportButton, &QPushButton::clicked, &c, &ViewController::saveCKeys);
+    connect(w.actionReset, &QAction::triggered, &c, &ViewController::resetToDef);
+    connect(w.actionGrid, &QAction::triggered, &c, &ViewController::allQWER);
+    connect(w.actionExport, &QAction::triggered, &c, &ViewController::saveCKeys);
+
+    connect(w.invent1, &QPushButton::clicked, &c, &ViewController::invent1);
+    connect(w.invent2, &QPushButton::clicked, &c, &ViewController::invent2);
+    connect(w.invent3, &QPushButton::clicked, &c, &ViewController::invent3);
+    connect(w.invent4, &QPushButton::clicked, &c, &ViewController::invent4);
+    connect(w.invent5, &QPushButton::clicked, &c, &ViewController::invent5);
+    connect(w.invent6, &QPushButton::clicked, &c, &ViewController::invent6);
+    connect(w.inventPopup, &QComboBox::activated, &c, &ViewController::setInventoryKey);
+    connect(w.isShiftBox, &QCheckBox::clicked, &c, &ViewController::setInventoryKeyBox);
+    connect(w.delBTN, &QPushButton::clicked, &c, &ViewController::eraseKey);
+}
+
+} // namespace tarnic

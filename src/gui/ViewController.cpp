@@ -1,0 +1,288 @@
+#include "gui/ViewController.h"
+
+#include "core/catalogue/Catalogue.h"
+#include "core/editor/ExportText.h"
+#include "core/editor/GridLayout.h"
+#include "core/editor/InventoryBinding.h"
+#include "core/editor/KeyAssignment.h"
+#include "core/editor/SelectionDetail.h"
+#include "core/fatal/Fatal.h"
+#include "gui/AbilityTableView.h"
+#include "gui/GuiResources.h"
+#include "gui/Outlet.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QFile>
+#include <QGuiApplication>
+#include <QPixmap>
+#include <QSaveFile>
+
+namespace tarnic {
+
+namespace {
+
+QString qs(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// "Select the item with title T": the first item with exactly that title, or none.
+void selectItemWithTitle(QComboBox& popup, std::string_view title) {
+    popup.setCurrentIndex(popup.findText(qs(title)));
+}
+
+std::optional<std::string> selectedTitle(const QComboBox& popup) {
+    if (popup.currentIndex() < 0) {
+        return std::nullopt;
+    }
+    return popup.currentText().toStdString();
+}
+
+QPixmap pictureNamed(const std::string& name) {
+    return QPixmap(QStringLiteral(":/images/") + qs(name) + QStringLiteral(".png"));
+}
+
+} // namespace
+
+ViewController::ViewController(QSettings& settings, QObject* parent)
+    : QObject(parent), mainDic(all_data()), keyboardKeys(tarnic::keyboardKeys),
+      keyboardKeysNum(tarnic::keyboardKeysNum), defaults_(settings), tableModel_(mainDic) {
+    initGuiResources();
+}
+
+ViewController::~ViewController() = default;
+
+void ViewController::viewDidLoad() {
+    for (int n = 1; n <= 6; ++n) {
+        if (std::optional<InventoryModel> stored = defaults_.inventoryModel(n)) {
+            inventoryModels[static_cast<std::size_t>(n - 1)] = std::move(*stored);
+        }
+    }
+
+    QComboBox& keys = outlet(keysPopup, "keysPopup");
+    for (std::string_view title : keyboardKeys) {
+        keys.addItem(qs(title));
+    }
+    QComboBox& inventory = outlet(inventPopup, "inventPopup");
+    inventory.addItem(qs(select));
+    for (std::string_view title : keyboardKeysNum) {
+        inventory.addItem(qs(title));
+    }
+    for (std::string_view title : keyboardKeys) {
+        inventory.addItem(qs(title));
+    }
+
+    // The controller is the table's data source and delegate. The columns belong to the
+    // window: it names them, as record keys, in the table's properties.
+    QTableView& table = outlet(tableView, "tableView");
+    tableModel_.setColumns(table.property("columnIdentifiers").toStringList(),
+                           table.property("columnTitles").toStringList());
+    table.setModel(&tableModel_);
+    connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &ViewController::tableViewSelectionDidChange);
+    connect(&table, &QTableView::clicked, this, &ViewController::tableViewSelectionDidChange);
+    // A second, separate observer of the same change: the handler must not care how often it
+    // runs for one change.
+    connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &ViewController::tableViewSelectionDidChange);
+
+    if (std::optional<std::vector<AbilityRecord>> stored = defaults_.mainDic()) {
+        mainDic = std::move(*stored);
+        reloadData();
+    }
+    defaults_.setMainDic(mainDic);
+
+    QFile templateFile(QStringLiteral(":/defaultkeys"));
+    if (templateFile.open(QIODevice::ReadOnly)) {
+        def_keys_bundle = templateFile.readAll().toStdString();
+    }
+
+    selectRow(outlet(tableView, "tableView"), 0);
+
+    // Hiding the application ends it, as closing the window does.
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
+            [this](Qt::ApplicationState state) {
+                if (state == Qt::ApplicationHidden) {
+                    windowWillClose();
+                }
+            });
+
+    // The inventory-key remapper installs its key observers and its game-detection timer
+    // after this point.
+}
+
+void ViewController::viewDidAppear() {
+    QWidget* window = outlet(tableView, "tableView").window();
+    if (window != nullptr && window != window_) {
+        window_ = window;
+        window->installEventFilter(this);
+    }
+}
+
+bool ViewController::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == window_ && event->type() == QEvent::Close) {
+        windowWillClose();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void ViewController::windowWillClose() {
+    // Queued: the loop ends after the event that asked for it has been handled.
+    QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit,
+                              Qt::QueuedConnection);
+}
+
+// ---- Ability table and hotkeys ----
+
+std::size_t ViewController::selectedIndex() const {
+    const int row = selectedRow(outlet(tableView, "tableView"));
+    if (row < 0 || static_cast<std::size_t>(row) >= mainDic.size()) {
+        fatalError(kIndexOutOfRange,
+                   "row " + std::to_string(row) + " of " + std::to_string(mainDic.size()));
+    }
+    return static_cast<std::size_t>(row);
+}
+
+void ViewController::reloadData() {
+    QTableView& table = outlet(tableView, "tableView");
+    const int row = selectedRow(table);
+    tableModel_.reload();
+    // A reload keeps the selection where the list still has that row.
+    if (row >= 0 && selectedRow(table) < 0 && row < tableModel_.rowCount()) {
+        table.selectionModel()->setCurrentIndex(tableModel_.index(row, 0),
+                                                QItemSelectionModel::ClearAndSelect |
+                                                    QItemSelectionModel::Rows);
+    }
+}
+
+void ViewController::syncKeysPopup() {
+    const AbilityRecord& record = mainDic[selectedIndex()];
+    selectItemWithTitle(outlet(keysPopup, "keysPopup"), popupTitle(record));
+}
+
+void ViewController::tableViewSelectionDidChange() {
+    const SelectionDetail detail = selectionDetail(mainDic[selectedIndex()]);
+    outlet(spellImage, "spellImage").setPixmap(pictureNamed(detail.spellImage));
+    outlet(parentImage, "parentImage").setPixmap(pictureNamed(detail.parentImage));
+    outlet(parentLbl, "parentLbl").setText(qs(detail.parentLbl));
+    selectItemWithTitle(outlet(keysPopup, "keysPopup"), detail.popupTitle);
+    outlet(defHotkey, "defHotkey").setText(qs(detail.defHotkey));
+    outlet(spellLbl, "spellLbl").setText(qs(detail.spellLbl));
+}
+
+void ViewController::setKey() {
+    const std::size_t row = selectedIndex();
+    assignKey(mainDic[row], selectedTitle(outlet(keysPopup, "keysPopup")));
+    // Not a reload and not stored: the list reaches the store at the next start or layout.
+    tableModel_.rowChanged(static_cast<int>(row));
+}
+
+void ViewController::resetToDef() {
+    mainDic = all_data();
+    reloadData();
+    syncKeysPopup();
+}
+
+void ViewController::allQWER() {
+    tarnic::allQWER(mainDic);
+    reloadData();
+    defaults_.setMainDic(mainDic);
+    syncKeysPopup();
+}
+
+// ---- Export ----
+
+void ViewController::saveCKeys() {
+    result = exportText(mainDic, def_keys_bundle);
+    QWidget* parent = tableView.isNull() ? nullptr : tableView->window();
+    fileDialog_.saveTextFile(parent, qs(custKs), this,
+                             [this](std::optional<QString> path) { writeResult(path); });
+}
+
+void ViewController::writeResult(const std::optional<QString>& path) {
+    if (path) {
+        if (path->isEmpty()) {
+            fatalError(kNilUnwrap, "the save dialog was accepted without a file");
+        }
+        // A failed write leaves the old file as it was and is not reported.
+        QSaveFile file(*path);
+        if (file.open(QIODevice::WriteOnly) &&
+            file.write(result.data(), static_cast<qint64>(result.size())) ==
+                static_cast<qint64>(result.size())) {
+            file.commit();
+        }
+    }
+    emit exportFinished();
+}
+
+// ---- Inventory keys ----
+
+void ViewController::invent(std::int64_t slot) {
+    inventoryEditNow = slot;
+    display(inventoryModels[static_cast<std::size_t>(slot - 1)]);
+}
+
+void ViewController::invent1() {
+    invent(1);
+}
+void ViewController::invent2() {
+    invent(2);
+}
+void ViewController::invent3() {
+    invent(3);
+}
+void ViewController::invent4() {
+    invent(4);
+}
+void ViewController::invent5() {
+    invent(5);
+}
+void ViewController::invent6() {
+    invent(6);
+}
+
+void ViewController::display(const InventoryModel& model) {
+    outlet(delBTN, "delBTN").setVisible(true);
+    outlet(inventPopup, "inventPopup").setVisible(true);
+    outlet(isShiftBox, "isShiftBox").setVisible(true);
+    outlet(isShiftBox, "isShiftBox").setChecked(false);
+    selectItemWithTitle(outlet(inventPopup, "inventPopup"), select);
+    if (model.empty()) {
+        return;
+    }
+    const InventoryDisplay shown = displayOf(model);
+    selectItemWithTitle(outlet(inventPopup, "inventPopup"), shown.title);
+    outlet(isShiftBox, "isShiftBox").setChecked(shown.shift);
+}
+
+void ViewController::setInventoryKey() {
+    setInventory();
+}
+
+void ViewController::setInventory() {
+    const std::string title =
+        selectedTitle(outlet(inventPopup, "inventPopup")).value_or(std::string());
+    const bool shift = outlet(isShiftBox, "isShiftBox").checkState() != Qt::Unchecked;
+    if (std::optional<InventoryModel> binding = bindingFrom(inventoryEditNow, title, shift)) {
+        const auto slot = static_cast<int>(inventoryEditNow);
+        inventoryModels[static_cast<std::size_t>(slot - 1)] = *binding;
+        defaults_.setInventoryModel(slot, *binding);
+    }
+}
+
+void ViewController::setInventoryKeyBox() {
+    // The box alone binds nothing: the next key pick stores the binding with the new modifier.
+    selectItemWithTitle(outlet(inventPopup, "inventPopup"), select);
+}
+
+void ViewController::eraseKey() {
+    outlet(isShiftBox, "isShiftBox").setChecked(false);
+    selectItemWithTitle(outlet(inventPopup, "inventPopup"), select);
+    if (inventoryEditNow >= 1 && inventoryEditNow <= 6) {
+        const auto slot = static_cast<int>(inventoryEditNow);
+        InventoryModel().swap(inventoryModels[static_cast<std::size_t>(slot - 1)]);
+        defaults_.removeInventoryModel(slot);
+    }
+}
+
+} // namespace tarnic

@@ -1,0 +1,123 @@
+#pragma once
+
+#include "core/record/AbilityRecord.h"
+#include "core/remapper/InventoryRemapper.h"
+#include "core/vocabulary/KeyCodes.h"
+#include "gui/AbilityTableModel.h"
+#include "gui/FileDialog.h"
+#include "store/UserDefaults.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QObject>
+#include <QPointer>
+#include <QPushButton>
+#include <QSettings>
+#include <QTableView>
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarnic {
+
+// The controller of the main window. It owns all the state of the hotkey editor and of the
+// inventory keys: the working list of abilities, the six slot bindings and the export buffers.
+// The window owns the controls; the controller only points at them (the outlets below, set by
+// the window) and its actions are connected by the window.
+class ViewController : public QObject {
+    Q_OBJECT
+public:
+    // `settings` is the user defaults store; it must outlive the controller.
+    explicit ViewController(QSettings& settings, QObject* parent = nullptr);
+    ~ViewController() override;
+
+    // The whole text of the ":/defaultkeys" template, read when the view loads.
+    std::string def_keys_bundle;
+    // The text the last export built.
+    std::string result;
+    // Modifier and game state of the inventory-key remapper.
+    std::int64_t flagHold = -1;
+    bool isFlag = false;
+    bool isWarRun = false;
+    // The slot (1 to 6) the inventory controls edit; 0 until a slot is chosen.
+    std::int64_t inventoryEditNow = 0;
+    // inventoryModel1 .. inventoryModel6: the binding of each slot, empty while unbound. The
+    // remapper reads this array on every key press, so a new binding is live at once.
+    std::array<InventoryModel, 6> inventoryModels;
+
+    // Outlets.
+    QPointer<QPushButton> delBTN;
+    QPointer<QCheckBox> isShiftBox;
+    QPointer<QLabel> defHotkey;
+    QPointer<QLabel> spellLbl;
+    QPointer<QLabel> parentLbl;
+    QPointer<QTableView> tableView;
+    QPointer<QLabel> spellImage;
+    QPointer<QLabel> parentImage;
+    QPointer<QComboBox> inventPopup;
+
+    // The working list, one table row per record, in list order.
+    std::vector<AbilityRecord> mainDic;
+    // Titles of the hotkey pop-up, and with them those of the inventory pop-up.
+    const std::array<std::string_view, 26>& keyboardKeys;
+    const std::array<std::string_view, 22>& keyboardKeysNum;
+
+    QPointer<QComboBox> keysPopup;
+
+    // Runs once, after the window has connected the outlets: restores the stored bindings and
+    // list, fills the pop-ups, reads the template and selects the first row.
+    void viewDidLoad();
+    // Runs when the window is shown: from then on closing the window ends the application.
+    void viewDidAppear();
+
+    // The save dialog of the export; tests answer it through here.
+    FileDialog& fileDialog() { return fileDialog_; }
+    // The table's data.
+    AbilityTableModel& tableModel() { return tableModel_; }
+
+    // Actions.
+    void eraseKey();
+    void setInventory();
+    void setInventoryKeyBox();
+    void setInventoryKey();
+    void invent1();
+    void display(const InventoryModel& model);
+    void invent2();
+    void invent3();
+    void invent4();
+    void invent5();
+    void invent6();
+    void setKey();
+    // Ends the application; nothing is saved at this point.
+    void windowWillClose();
+    void tableViewSelectionDidChange();
+    void resetToDef();
+    void allQWER();
+    void saveCKeys();
+
+signals:
+    // The save dialog of an export was answered and, if accepted, the file written or not.
+    void exportFinished();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void invent(std::int64_t slot);
+    // The selected row; a list position that is not there ends the program.
+    std::size_t selectedIndex() const;
+    void reloadData();
+    void syncKeysPopup();
+    void writeResult(const std::optional<QString>& path);
+
+    UserDefaults defaults_;
+    AbilityTableModel tableModel_;
+    FileDialog fileDialog_;
+    QPointer<QWidget> window_;
+};
+
+} // namespace tarnic

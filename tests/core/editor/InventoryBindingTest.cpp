@@ -1,0 +1,75 @@
+#include "core/editor/InventoryBinding.h"
+
+#include "core/vocabulary/KeyCodes.h"
+
+#include <gtest/gtest.h>
+
+namespace tarnic {
+namespace {
+
+TEST(InventoryBinding, SlotThreeWithoutShiftOnQ) {
+    EXPECT_EQ(bindingFrom(3, "Q", false), (InventoryModel{3, 0, 12}));
+}
+
+TEST(InventoryBinding, SlotOneWithShiftOnOne) {
+    EXPECT_EQ(bindingFrom(1, "1", true), (InventoryModel{1, 56, 18}));
+}
+
+TEST(InventoryBinding, SelectGivesNoKey) {
+    EXPECT_EQ(bindingFrom(4, select, false), (InventoryModel{4, 0, -1}));
+    EXPECT_EQ(bindingFrom(6, select, true), (InventoryModel{6, 56, -1}));
+}
+
+TEST(InventoryBinding, NoSlotChosenKeepsNothing) {
+    EXPECT_FALSE(bindingFrom(0, "Q", true).has_value());
+    EXPECT_FALSE(bindingFrom(7, "Q", true).has_value());
+}
+
+TEST(InventoryBinding, EveryPopupLabelHasItsOwnCode) {
+    for (auto label : keyboardKeys) {
+        EXPECT_EQ(triggerCodeOf(label), codeOfLabel(label).value());
+    }
+    for (auto label : keyboardKeysNum) {
+        EXPECT_EQ(triggerCodeOf(label), codeOfLabel(label).value());
+    }
+    EXPECT_EQ(triggerCodeOf("no such key"), -1);
+}
+
+TEST(InventoryBinding, EmptyModelShowsSelectAndNoShift) {
+    const auto shown = displayOf({});
+    EXPECT_EQ(shown.title, "Select");
+    EXPECT_FALSE(shown.shift);
+}
+
+TEST(InventoryBinding, BoundModelShowsItsKeyAndModifier) {
+    EXPECT_EQ(displayOf({3, 0, 12}).title, "Q");
+    EXPECT_FALSE(displayOf({3, 0, 12}).shift);
+    EXPECT_EQ(displayOf({1, 56, 18}).title, "1");
+    EXPECT_TRUE(displayOf({1, 56, 18}).shift);
+}
+
+TEST(InventoryBinding, UnknownCodeShowsSelectWithTheStoredModifier) {
+    const auto shown = displayOf({5, 56, 999});
+    EXPECT_EQ(shown.title, "Select");
+    EXPECT_TRUE(shown.shift);
+    EXPECT_EQ(displayOf({2, 0, -1}).title, "Select");
+    EXPECT_FALSE(displayOf({2, 0, -1}).shift);
+}
+
+TEST(InventoryBinding, AnyNonZeroModifierTicksTheBox) {
+    EXPECT_TRUE(displayOf({2, 59, 12}).shift);
+}
+
+TEST(InventoryBinding, SelectRoundTripsThroughDisplay) {
+    const auto model = *bindingFrom(2, select, true);
+    const auto shown = displayOf(model);
+    EXPECT_EQ(shown.title, "Select");
+    EXPECT_TRUE(shown.shift);
+}
+
+TEST(InventoryBindingDeathTest, ShortModelIsAnIndexOutOfRange) {
+    EXPECT_DEATH(displayOf({1, 0}), "Index out of range");
+}
+
+} // namespace
+} // namespace tarnic

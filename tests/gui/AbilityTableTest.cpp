@@ -1,0 +1,190 @@
+#include "EditorFixture.h"
+
+#include "core/catalogue/Catalogue.h"
+#include "core/editor/RecordFactory.h"
+
+#include <QTest>
+
+namespace tarnic::testing {
+namespace {
+
+// Pictures compared pixel by pixel, whatever the format they were kept in.
+QImage pictureFile(const QString& name) {
+    return QImage(QStringLiteral(":/images/") + name + QStringLiteral(".png"))
+        .convertToFormat(QImage::Format_ARGB32);
+}
+
+QImage shown(const QLabel& label) {
+    return label.pixmap().toImage().convertToFormat(QImage::Format_ARGB32);
+}
+
+class AbilityTable : public EditorFixture {
+protected:
+    struct Display {
+        QString spell, parent, defLine, popup;
+        QImage spellPicture, parentPicture;
+        bool operator==(const Display&) const = default;
+    };
+    Display display() {
+        return {ui().spellLbl->text(),         ui().parentLbl->text(),  ui().defHotkey->text(),
+                ui().keysPopup->currentText(), shown(*ui().spellImage), shown(*ui().parentImage)};
+    }
+    int selected() {
+        const auto rows = ui().tableView->selectionModel()->selectedRows();
+        return rows.size() == 1 ? rows.first().row() : -1;
+    }
+};
+
+TEST_F(AbilityTable, HoldsTheCatalogueWithMoveFirst) {
+    launch();
+    ASSERT_FALSE(all_data().empty());
+    EXPECT_EQ(vc().tableModel().rowCount(), static_cast<int>(all_data().size()));
+    EXPECT_EQ(vc().tableModel().index(0, 0).data().toString(), "Move");
+    EXPECT_EQ(ui().spellLbl->text(), "Move");
+}
+
+TEST_F(AbilityTable, ColumnsAreTheAbilityOwnerAndKeys) {
+    launch();
+    const auto& model = vc().tableModel();
+    ASSERT_EQ(model.columnCount(), 4);
+    const QStringList titles = {"Ability", "Owner", "Default", "New"};
+    for (int c = 0; c < 4; ++c) {
+        EXPECT_EQ(model.headerData(c, Qt::Horizontal).toString(), titles[c]);
+    }
+    EXPECT_EQ(model.columnIdentifiers(),
+              QStringList({"name", "name parent", "def hotkey", "new hotkey"}));
+}
+
+TEST_F(AbilityTable, EveryRowShowsItsRecordInTheDetailArea) {
+    launch();
+    const auto& list = all_data();
+    for (std::size_t r = 0; r < list.size(); ++r) {
+        clickRow(static_cast<int>(r));
+        ASSERT_EQ(selected(), static_cast<int>(r));
+        const AbilityRecord& record = list[r];
+        const QString name = QString::fromStdString(record.at(name_spell));
+        const auto owner = record.find(name_parent);
+        EXPECT_EQ(ui().spellLbl->text(), name);
+        EXPECT_EQ(shown(*ui().spellImage), pictureFile(name)) << name.toStdString();
+        EXPECT_FALSE(ui().spellImage->pixmap().isNull()) << name.toStdString();
+        if (owner == record.end()) {
+            EXPECT_EQ(ui().parentLbl->text(), "");
+            EXPECT_EQ(shown(*ui().parentImage), pictureFile("empty"));
+        } else {
+            const QString ownerName = QString::fromStdString(owner->second);
+            EXPECT_EQ(ui().parentLbl->text(), ownerName);
+            EXPECT_EQ(shown(*ui().parentImage), pictureFile(ownerName));
+            EXPECT_FALSE(ui().parentImage->pixmap().isNull()) << owner->second;
+        }
+        EXPECT_EQ(ui().defHotkey->text().toStdString(),
+                  "Default hotkey < " + record.at(def_hotkey) + " >");
+        EXPECT_EQ(ui().keysPopup->currentText().toStdString(), record.at(def_hotkey));
+    }
+}
+
+TEST_F(AbilityTable, MoveShowsTheEmptyOwnerPictureAndPeasantAbilityShowsThePeasant) {
+    launch();
+    clickRow(0);
+    EXPECT_EQ(ui().parentLbl->text(), "");
+    EXPECT_EQ(shown(*ui().parentImage), pictureFile("empty"));
+    EXPECT_FALSE(pictureFile("empty").isNull());
+    const auto& list = all_data();
+    const auto peasant = std::find_if(list.begin(), list.end(), [](const AbilityRecord& r) {
+        return r.count(name_parent) != 0 && r.at(name_parent) == "Peasant";
+    });
+    ASSERT_NE(peasant, list.end());
+    clickRow(static_cast<int>(peasant - list.begin()));
+    EXPECT_EQ(ui().parentLbl->text(), "Peasant");
+    EXPECT_EQ(shown(*ui().parentImage), pictureFile("Peasant"));
+}
+
+TEST_F(AbilityTable, PopupShowsTheChosenKeyElseTheDefault) {
+    launch();
+    clickRow(9);
+    choose(*ui().keysPopup, "Q");
+    clickRow(10);
+    EXPECT_EQ(ui().keysPopup->currentText().toStdString(), all_data()[10].at(def_hotkey));
+    clickRow(9);
+    EXPECT_EQ(ui().keysPopup->currentText(), "Q");
+}
+
+TEST_F(AbilityTable, DefaultHotkeyLineIsExactlyTheKeyInBrackets) {
+    auto list = generalCommands();
+    list.push_back(makeRecord("Thunder", "Giant", "T"));
+    storeMainDic(list);
+    launch();
+    clickRow(7);
+    EXPECT_EQ(ui().defHotkey->text(), QString("Default hotkey < ") + "T" + " >");
+}
+
+TEST_F(AbilityTable, MissingPicturesClearTheViews) {
+    auto list = generalCommands();
+    list.push_back(makeRecord("Nothing Drawn For This", std::string(), "N"));
+    storeMainDic(list);
+    launch();
+    ASSERT_FALSE(ui().spellImage->pixmap().isNull());
+    ASSERT_FALSE(ui().parentImage->pixmap().isNull());
+    clickRow(7);
+    EXPECT_TRUE(ui().spellImage->pixmap().isNull());
+    EXPECT_TRUE(ui().parentImage->pixmap().isNull());
+    EXPECT_EQ(ui().parentLbl->text(), "");
+    EXPECT_EQ(ui().spellLbl->text(), "Nothing Drawn For This");
+}
+
+TEST_F(AbilityTable, HandlerRunAgainForOneChangeGivesTheSameDisplay) {
+    launch();
+    clickRow(12);
+    const Display once = display();
+    vc().tableViewSelectionDidChange();
+    vc().tableViewSelectionDidChange();
+    EXPECT_EQ(display(), once);
+    EXPECT_EQ(once.spell.toStdString(), all_data()[12].at(name_spell));
+}
+
+TEST_F(AbilityTable, KeyboardMovesTheSelectionAndTheDetailFollows) {
+    launch();
+    clickRow(4);
+    ui().tableView->setFocus();
+    QTest::keyClick(ui().tableView, Qt::Key_Down);
+    EXPECT_EQ(selected(), 5);
+    EXPECT_EQ(ui().spellLbl->text().toStdString(), all_data()[5].at(name_spell));
+}
+
+TEST_F(AbilityTable, TheSelectionCannotBeEmptied) {
+    launch();
+    clickRow(6);
+    QTableView& table = *ui().tableView;
+    const QModelIndex index = table.model()->index(6, 0);
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, Qt::ControlModifier,
+                      table.visualRect(index).center());
+    EXPECT_EQ(selected(), 6);
+    QTest::keyClick(&table, Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(selected(), 6);
+}
+
+TEST_F(AbilityTable, ACellOfAKeyTheRecordLacksIsEmpty) {
+    launch();
+    // Move has no owner.
+    EXPECT_FALSE(vc().tableModel().index(0, 1).data().isValid());
+    EXPECT_EQ(vc().tableModel().index(0, 2).data().toString(), "M");
+}
+
+using AbilityTableDeathTest = AbilityTable;
+
+TEST_F(AbilityTableDeathTest, NoSelectedRowIsAnIndexOutOfRange) {
+    storeMainDic({});
+    launch();
+    EXPECT_EQ(vc().tableModel().rowCount(), 0);
+    EXPECT_DEATH(vc().tableViewSelectionDidChange(), "Index out of range");
+}
+
+TEST_F(AbilityTableDeathTest, RecordWithoutNameEndsTheProgramWhenSelected) {
+    auto list = generalCommands();
+    list[1].erase(name_spell);
+    storeMainDic(list);
+    launch();
+    EXPECT_DEATH(clickRow(1), "Unexpectedly found nil while unwrapping an Optional value");
+}
+
+} // namespace
+} // namespace tarnic::testing

@@ -1,0 +1,111 @@
+#include "EditorFixture.h"
+
+#include "store/UserDefaults.h"
+
+#include <QAbstractItemView>
+#include <QCoreApplication>
+#include <QDir>
+#include <QTest>
+
+namespace tarnic::testing {
+
+void EditorFixture::SetUp() {
+    ASSERT_TRUE(dir_.isValid());
+    hadConfigHome_ = qEnvironmentVariableIsSet("XDG_CONFIG_HOME");
+    previousConfigHome_ = qgetenv("XDG_CONFIG_HOME");
+    QDir(dir_.path()).mkpath(QStringLiteral("config"));
+    qputenv("XDG_CONFIG_HOME", dir_.filePath(QStringLiteral("config")).toLocal8Bit());
+}
+
+void EditorFixture::TearDown() {
+    shutDown();
+    if (hadConfigHome_) {
+        qputenv("XDG_CONFIG_HOME", previousConfigHome_);
+    } else {
+        qunsetenv("XDG_CONFIG_HOME");
+    }
+}
+
+void EditorFixture::launch() {
+    shutDown();
+    settings_ = openUserDefaults();
+    controller_ = std::make_unique<ViewController>(*settings_);
+    window_ = std::make_unique<MainWindow>();
+    window_->connectController(*controller_);
+    controller_->viewDidLoad();
+    window_->show();
+    controller_->viewDidAppear();
+}
+
+void EditorFixture::shutDown() {
+    window_.reset();
+    controller_.reset();
+    settings_.reset();
+    // A quit asked for by a test that is over must not end the next test's event loop.
+    QCoreApplication::removePostedEvents(QCoreApplication::instance(), QEvent::MetaCall);
+}
+
+QString EditorFixture::storePath() const {
+    return userDefaultsPath();
+}
+
+std::optional<std::vector<AbilityRecord>> EditorFixture::storedMainDic() const {
+    QSettings settings(storePath(), plistSettingsFormat());
+    return UserDefaults(settings).mainDic();
+}
+
+std::optional<InventoryModel> EditorFixture::storedInventoryModel(int slot) const {
+    QSettings settings(storePath(), plistSettingsFormat());
+    return UserDefaults(settings).inventoryModel(slot);
+}
+
+bool EditorFixture::storeHasKey(const QString& key) const {
+    QSettings settings(storePath(), plistSettingsFormat());
+    return settings.contains(key);
+}
+
+void EditorFixture::storeMainDic(const std::vector<AbilityRecord>& list) const {
+    QSettings settings(storePath(), plistSettingsFormat());
+    UserDefaults(settings).setMainDic(list);
+    settings.sync();
+}
+
+void EditorFixture::storeInventoryModel(int slot, const InventoryModel& model) const {
+    QSettings settings(storePath(), plistSettingsFormat());
+    UserDefaults(settings).setInventoryModel(slot, model);
+    settings.sync();
+}
+
+void EditorFixture::storeRaw(const QString& key, const QVariant& value) const {
+    QSettings settings(storePath(), plistSettingsFormat());
+    settings.setValue(key, value);
+    settings.sync();
+}
+
+void EditorFixture::clickRow(int row) {
+    QTableView& table = *ui().tableView;
+    const QModelIndex index = table.model()->index(row, 0);
+    table.scrollTo(index);
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, table.visualRect(index).center());
+}
+
+void EditorFixture::click(QAbstractButton& button) {
+    QTest::mouseClick(&button, Qt::LeftButton, {}, button.rect().center());
+}
+
+void EditorFixture::choose(QComboBox& popup, const QString& title) {
+    const int target = popup.findText(title);
+    ASSERT_GE(target, 0) << title.toStdString();
+    // Open the list, walk to the item with the keyboard and take it with Return.
+    popup.showPopup();
+    QAbstractItemView* list = popup.view();
+    QTest::keyClick(list, Qt::Key_Home);
+    for (int i = 0; i < target; ++i) {
+        QTest::keyClick(list, Qt::Key_Down);
+    }
+    ASSERT_EQ(list->currentIndex().row(), target);
+    QTest::keyClick(list, Qt::Key_Return);
+    ASSERT_EQ(popup.currentIndex(), target);
+}
+
+} // namespace tarnic::testing
