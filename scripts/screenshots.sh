@@ -78,7 +78,7 @@ done
 
 "$build/src/app/tarnic-pro" >"$scratch/app.log" 2>&1 &
 pids+=($!)
-window=$(timeout 60 xdotool search --sync --onlyvisible --name '^Tarnic Pro$' | head -n1) ||
+window=$(timeout 60 xdotool search --sync --onlyvisible --name '^Tarnic Pro$' | awk 'NR == 1') ||
     fail "no Tarnic Pro window: $(cat "$scratch/app.log")"
 xdotool windowactivate --sync "$window" windowmove --sync "$window" 40 40
 

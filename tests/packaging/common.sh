@@ -1,4 +1,7 @@
-# Shared checks for the packaging tests. Sourced, not run.
+# Shared checks for the packaging tests. Sourced, not run, after `set -euo pipefail`.
+
+# A command that fails outside an explicit check still says where, rather than ending silently.
+trap 'echo "FAIL: unexpected failure of \"$BASH_COMMAND\" (line $LINENO of $(basename "$0"))" >&2' ERR
 
 fail() {
     echo "FAIL: $*" >&2

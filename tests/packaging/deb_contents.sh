@@ -41,13 +41,15 @@ owner_of() {
     done
     for path in "${candidates[@]}"; do
         if dpkg -S "$path" >/dev/null 2>&1; then
-            dpkg -S "$path" | head -n1 | cut -d: -f1
+            dpkg -S "$path" | awk -F: 'NR == 1 { print $1 }'
             return
         fi
     done
 }
+# Read whole, never cut short: a reader that stops early would kill the writer with SIGPIPE.
+resolved=$(ldd "$exe") || fail "ldd cannot resolve the program's libraries"
 while read -r soname; do
-    lib=$(ldd "$exe" | awk -v s="$soname" '$1 == s && $2 == "=>" { print $3; exit }')
+    lib=$(awk -v s="$soname" '$1 == s && $2 == "=>" && !found { print $3; found = 1 }' <<<"$resolved")
     [ -n "$lib" ] && [ -e "$lib" ] || fail "the program needs $soname, which this system does not have"
     owner=$(owner_of "$lib")
     [ -n "$owner" ] || fail "no Debian package owns $lib (needed as $soname)"

@@ -127,5 +127,11 @@ if [ "${width:-0}" -lt 600 ] || [ "${height:-0}" -lt 400 ]; then
     report
     fail "the window named 'Tarnic Pro' is ${width}x${height}: a message box, not the main window"
 fi
+# Docks tie the window to its launcher by the class the launcher names.
+wm_class=$(sed -n 's/^StartupWMClass=//p' "$scratch"/root/usr/share/applications/*.desktop)
+[ -n "$wm_class" ] || fail "the packaged launcher names no StartupWMClass"
+window_class=$(xprop -id "$window" WM_CLASS)
+[[ $window_class == *"\"$wm_class\""* ]] ||
+    fail "the window's $window_class does not hold the launcher's class '$wm_class'"
 echo "main window $window (${width}x${height}) on display :$display"
 echo "site log: $(grep -m1 "pid=$app\$" "$scratch/http.log")"
