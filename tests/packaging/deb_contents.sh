@@ -24,6 +24,11 @@ arch=$(dpkg --print-architecture)
 [ "$(basename "$deb")" = "tarnic-pro_${version}_${arch}.deb" ] || fail "unexpected file name $(basename "$deb")"
 
 check_desktop_tree "$scratch/root/usr" "$id" "$sizes"
+# Nothing else rides along: no headers, static libraries or test programs of the build.
+stray=$(cd "$scratch/root" && find . -type f ! -path ./usr/bin/tarnic-pro \
+    ! -path "./usr/share/applications/$id.desktop" ! -path "./usr/share/metainfo/$id.metainfo.xml" \
+    ! -path "./usr/share/icons/hicolor/*/apps/$id.*" ! -path "./usr/share/doc/tarnic-pro/*")
+[ -z "$stray" ] || fail "the package holds files it should not: $stray"
 validate_desktop_files "$scratch/root/usr" "$id"
 
 # Depends: every library the program needs must come from a package the Depends line names. The C
