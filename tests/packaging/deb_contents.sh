@@ -1,0 +1,78 @@
+#!/usr/bin/env bash
+# Unpacks the package made by deb_build.sh into a scratch root and checks its fields, its files
+# and that its Depends line covers every shared library the program links.
+#   deb_contents.sh DEB_DIR APP_ID "ICON_SIZES" VERSION
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+. "$here/common.sh"
+out=$1 id=$2 sizes=$3 version=$4
+
+shopt -s nullglob
+debs=("$out"/tarnic-pro_*.deb)
+[ ${#debs[@]} -eq 1 ] || fail "expected one tarnic-pro_*.deb in $out, found ${#debs[@]}"
+deb=${debs[0]}
+
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+dpkg -x "$deb" "$scratch/root" || fail "dpkg -x cannot unpack $deb"
+
+field() { dpkg-deb -f "$deb" "$1"; }
+[ "$(field Package)" = tarnic-pro ] || fail "Package is '$(field Package)'"
+[ "$(field Version)" = "$version" ] || fail "Version is '$(field Version)', expected '$version'"
+arch=$(dpkg --print-architecture)
+[ "$(field Architecture)" = "$arch" ] || fail "Architecture is '$(field Architecture)', expected '$arch'"
+[ "$(basename "$deb")" = "tarnic-pro_${version}_${arch}.deb" ] || fail "unexpected file name $(basename "$deb")"
+
+check_desktop_tree "$scratch/root/usr" "$id" "$sizes"
+# Nothing else rides along: no headers, static libraries or test programs of the build.
+stray=$(cd "$scratch/root" && find . -type f ! -path ./usr/bin/tarnic-pro \
+    ! -path "./usr/share/applications/$id.desktop" ! -path "./usr/share/metainfo/$id.metainfo.xml" \
+    ! -path "./usr/share/icons/hicolor/*/apps/$id.*" ! -path "./usr/share/doc/tarnic-pro/*")
+[ -z "$stray" ] || fail "the package holds files it should not: $stray"
+validate_desktop_files "$scratch/root/usr" "$id"
+
+# Depends: every library the program needs must come from a package the Depends line names. The C
+# library always comes with the minimum version its symbols ask for: dpkg-shlibdeps wrote the line.
+depends=$(field Depends)
+[ -n "$depends" ] || fail "the package has no Depends line"
+echo "Depends: $depends"
+declare -A wanted=()
+exe=$scratch/root/usr/bin/tarnic-pro
+# The package that owns a library file; Debian lists some under /lib, some under /usr/lib.
+owner_of() {
+    local path candidates=("$1" "$(readlink -f "$1")")
+    for path in "${candidates[@]}"; do
+        candidates+=("${path#/usr}" "/usr${path#/usr}")
+    done
+    for path in "${candidates[@]}"; do
+        if dpkg -S "$path" >/dev/null 2>&1; then
+            dpkg -S "$path" | awk -F: 'NR == 1 { print $1 }'
+            return
+        fi
+    done
+}
+# Read whole, never cut short: a reader that stops early would kill the writer with SIGPIPE.
+resolved=$(ldd "$exe") || fail "ldd cannot resolve the program's libraries"
+while read -r soname; do
+    lib=$(awk -v s="$soname" '$1 == s && $2 == "=>" && !found { print $3; found = 1 }' <<<"$resolved")
+    [ -n "$lib" ] && [ -e "$lib" ] || fail "the program needs $soname, which this system does not have"
+    owner=$(owner_of "$lib")
+    [ -n "$owner" ] || fail "no Debian package owns $lib (needed as $soname)"
+    wanted[$owner]=$soname
+done < <(readelf -d "$exe" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p')
+[ ${#wanted[@]} -gt 0 ] || fail "readelf found no shared library the program needs"
+
+IFS=',' read -ra entries <<<"$depends"
+for pkg in "${!wanted[@]}"; do
+    found=
+    for entry in "${entries[@]}"; do
+        entry=${entry# }
+        if [ "$entry" = "$pkg" ] || [[ $entry == "$pkg ("*")" ]]; then
+            found=$entry
+        fi
+    done
+    [ -n "$found" ] || fail "Depends lacks $pkg, which provides ${wanted[$pkg]}"
+    echo "  ${wanted[$pkg]} <- $found"
+done
+[[ ", $depends," == *", libc6 (>= "*")"* ]] || fail "Depends has no versioned libc6: not computed by dpkg-shlibdeps"
+echo "package $(basename "$deb") is complete"
