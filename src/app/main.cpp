@@ -8,12 +8,16 @@
 #include "ui_MainWindow.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QTimer>
 
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Tarnic"));
     QApplication::setApplicationName(QStringLiteral("Tarnic Pro"));
+    // Ties the window to its launcher and icon on the desktop.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.tarnic.TarnicPro"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.tarnic.TarnicPro")));
 
     // How keys of other applications are watched and keypad keys typed: X11 normally, the
     // recording fakes when TARNIC_PLATFORM=fake.

@@ -117,6 +117,22 @@ TEST_F(AbilityTable, DefaultHotkeyLineIsExactlyTheKeyInBrackets) {
     EXPECT_EQ(ui().defHotkey->text(), QString("Default hotkey < ") + "T" + " >");
 }
 
+TEST_F(AbilityTable, DetailTextIsShownAsWrittenNeverAsMarkup) {
+    // "< B >" would read as a bold tag if the labels took their text for rich text, and the
+    // key would vanish from the line.
+    auto list = generalCommands();
+    list.push_back(makeRecord("<i>Blizzard</i>", "<b>ArchMage</b>", "B"));
+    storeMainDic(list);
+    launch();
+    clickRow(7);
+    for (QLabel* label : {ui().defHotkey, ui().spellLbl, ui().parentLbl}) {
+        EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->objectName().toStdString();
+    }
+    EXPECT_EQ(ui().defHotkey->text(), "Default hotkey < B >");
+    EXPECT_EQ(ui().spellLbl->text(), "<i>Blizzard</i>");
+    EXPECT_EQ(ui().parentLbl->text(), "<b>ArchMage</b>");
+}
+
 TEST_F(AbilityTable, MissingPicturesClearTheViews) {
     auto list = generalCommands();
     list.push_back(makeRecord("Nothing Drawn For This", std::string(), "N"));
