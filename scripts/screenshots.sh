@@ -7,6 +7,8 @@ set -euo pipefail
 top=$(cd "$(dirname "$0")/.." && pwd)
 cd "$top"
 scripts/deps.sh test
+# shellcheck source=../tests/support/xvfb-session.sh
+. tests/support/xvfb-session.sh
 
 fail() {
     echo "screenshots: $*" >&2
@@ -39,42 +41,23 @@ cleanup() {
     local pid
     for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
     for pid in "${pids[@]}"; do wait "$pid" 2>/dev/null || true; done
+    session_stop
     rm -rf "$scratch"
 }
 trap cleanup EXIT
 
-# The site: the project's own copy when it has one, else just the version-support file.
-if [ -f site/tn11.plist ]; then
-    site=$top/site
-else
-    site=$scratch/site
-    mkdir -p "$site"
-    printf '%s\n' '<?xml version="1.0" encoding="UTF-8"?>' \
-        '<plist version="1.0"><dict/></plist>' >"$site/tn11.plist"
-fi
-python3 -u -m http.server --bind 127.0.0.1 --directory "$site" "$port" >"$scratch/http.log" 2>&1 &
+python3 -u -m http.server --bind 127.0.0.1 --directory "$top/site" "$port" >"$scratch/http.log" 2>&1 &
 pids+=($!)
 timeout 20 grep -q -m1 '^Serving HTTP' <(tail -n +1 -F --pid=$! "$scratch/http.log" 2>/dev/null) ||
     fail "the site did not start: $(cat "$scratch/http.log")"
 
-mkfifo "$scratch/displayfd"
-Xvfb -displayfd 3 -noreset -nolisten tcp -screen 0 1280x900x24 3>"$scratch/displayfd" \
-    >"$scratch/xvfb.log" 2>&1 &
-pids+=($!)
-read -r -t 30 display <"$scratch/displayfd" || fail "Xvfb did not start: $(cat "$scratch/xvfb.log")"
-export DISPLAY=:$display
+xvfb_start 1280x900x24 || fail "Xvfb did not start"
 
 export HOME=$scratch/home XDG_CONFIG_HOME=$scratch/home/.config XDG_RUNTIME_DIR=$scratch/run
 mkdir -p "$XDG_CONFIG_HOME" && mkdir -m 700 "$XDG_RUNTIME_DIR"
 export QT_QPA_PLATFORM=xcb
 
-openbox >"$scratch/openbox.log" 2>&1 &
-pids+=($!)
-# The window manager is ready when it has claimed the screen (it sets _NET_SUPPORTING_WM_CHECK).
-for _ in $(seq 100); do
-    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break
-    sleep 0.1
-done
+wm_start || fail "openbox did not start"
 
 "$build/src/app/tarnic-pro" >"$scratch/app.log" 2>&1 &
 pids+=($!)

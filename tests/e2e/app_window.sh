@@ -8,8 +8,8 @@
 set -u
 app=$1 site=$2 port=$3 mode=$4
 here=$(cd "$(dirname "$0")" && pwd)
-# shellcheck source=xvfb-session.sh
-. "$here/xvfb-session.sh"
+# shellcheck source=../support/xvfb-session.sh
+. "$here/../support/xvfb-session.sh"
 
 work=$(mktemp -d)
 cleanup() {
@@ -21,8 +21,8 @@ cleanup() {
 trap cleanup EXIT
 fail() { echo "FAIL: $*" >&2; echo "--- application output:" >&2; cat "$work/out" "$work/err" >&2; exit 1; }
 
-xvfb_start || exit 1
-wm_start || exit 1
+xvfb_start || fail "Xvfb did not start"
+wm_start || fail "openbox did not start"
 
 if [ "$mode" = up ]; then
     python3 -m http.server --bind 127.0.0.1 --directory "$site" "$port" >/dev/null 2>"$work/site.log" &

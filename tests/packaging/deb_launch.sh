@@ -7,6 +7,8 @@
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 . "$here/common.sh"
+# shellcheck source=../support/xvfb-session.sh
+. "$here/../support/xvfb-session.sh"
 out=$1 site_url=$2
 window_timeout=60
 fetch_timeout=60
@@ -33,6 +35,7 @@ cleanup() {
     local pid
     for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
     for pid in "${pids[@]}"; do wait "$pid" 2>/dev/null || true; done
+    session_stop
     rm -rf "$scratch"
 }
 trap cleanup EXIT
@@ -66,22 +69,12 @@ import sys, urllib.request
 urllib.request.urlopen(sys.argv[1], timeout=10).read()
 PY
 
-# A private X server on a display number it picks itself and reports through a pipe.
-mkfifo "$scratch/displayfd"
-Xvfb -displayfd 3 -noreset -nolisten tcp -screen 0 1280x800x24 3>"$scratch/displayfd" \
-    >"$scratch/xvfb.log" 2>&1 &
-pids+=($!)
-read -r -t 30 display <"$scratch/displayfd" || fail "Xvfb did not start: $(cat "$scratch/xvfb.log")"
-export DISPLAY=:$display
+xvfb_start || fail "Xvfb did not start"
 
 # The player's environment: a home and config folder of its own, the X11 platform.
 export HOME=$scratch/home XDG_CONFIG_HOME=$scratch/home/.config XDG_RUNTIME_DIR=$scratch/run
 mkdir -p "$XDG_CONFIG_HOME" && mkdir -m 700 "$XDG_RUNTIME_DIR"
 export QT_QPA_PLATFORM=xcb
-# A sanitizer build of the package still runs here, but not under strict string checks: with them
-# ASan stops in libxkbcommon-x11, which hands strndup() a counted, unterminated buffer while Qt
-# connects to the X server. Options given later win.
-export ASAN_OPTIONS=${ASAN_OPTIONS:+$ASAN_OPTIONS:}strict_string_checks=0
 
 "$exe" >"$scratch/app.out" 2>"$scratch/app.err" &
 pids+=($!)
@@ -133,5 +126,5 @@ wm_class=$(sed -n 's/^StartupWMClass=//p' "$scratch"/root/usr/share/applications
 window_class=$(xprop -id "$window" WM_CLASS)
 [[ $window_class == *"\"$wm_class\""* ]] ||
     fail "the window's $window_class does not hold the launcher's class '$wm_class'"
-echo "main window $window (${width}x${height}) on display :$display"
+echo "main window $window (${width}x${height}) on display $DISPLAY"
 echo "site log: $(grep -m1 "pid=$app\$" "$scratch/http.log")"
