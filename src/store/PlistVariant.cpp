@@ -1,5 +1,7 @@
 #include "store/PlistVariant.h"
 
+#include "store/IntegerValue.h"
+
 #include <QDateTime>
 #include <QStringList>
 
@@ -111,18 +113,16 @@ plist_t plistFromVariant(const QVariant& value) {
     case QMetaType::LongLong:
     case QMetaType::Short:
     case QMetaType::SChar:
-        return integerNode(value.toLongLong());
     case QMetaType::UInt:
     case QMetaType::ULong:
     case QMetaType::ULongLong:
     case QMetaType::UShort:
-    case QMetaType::UChar: {
-        const qulonglong unsignedValue = value.toULongLong();
-        if (unsignedValue > static_cast<qulonglong>(std::numeric_limits<qint64>::max())) {
-            return stringNode(QString::number(unsignedValue));
+    case QMetaType::UChar:
+        if (const std::optional<std::int64_t> integer = integerValue(value)) {
+            return integerNode(*integer);
         }
-        return integerNode(static_cast<qint64>(unsignedValue));
-    }
+        // Above the signed range an <integer> cannot hold it.
+        return stringNode(QString::number(value.toULongLong()));
     case QMetaType::Double:
     case QMetaType::Float:
         return plist_new_real(value.toDouble());

@@ -1,8 +1,9 @@
 #include "store/StoredTypes.h"
 
+#include "store/IntegerValue.h"
+
 #include <QStringList>
 
-#include <limits>
 #include <optional>
 
 namespace tarnic {
@@ -17,31 +18,6 @@ bool isList(const QVariant& value) {
 bool isDictionary(const QVariant& value) {
     const int type = value.typeId();
     return type == QMetaType::QVariantMap || type == QMetaType::QVariantHash;
-}
-
-// The value as a signed 64-bit integer when it is an integer of any width that fits.
-std::optional<std::int64_t> integerValue(const QVariant& value) {
-    switch (value.typeId()) {
-    case QMetaType::Int:
-    case QMetaType::Long:
-    case QMetaType::LongLong:
-    case QMetaType::Short:
-    case QMetaType::SChar:
-        return value.toLongLong();
-    case QMetaType::UInt:
-    case QMetaType::ULong:
-    case QMetaType::ULongLong:
-    case QMetaType::UShort:
-    case QMetaType::UChar: {
-        const qulonglong unsignedValue = value.toULongLong();
-        if (unsignedValue > static_cast<qulonglong>(std::numeric_limits<std::int64_t>::max())) {
-            return std::nullopt;
-        }
-        return static_cast<std::int64_t>(unsignedValue);
-    }
-    default:
-        return std::nullopt;
-    }
 }
 
 std::optional<AbilityRecord> recordFromStored(const QVariant& value, WrongType& wrong) {
