@@ -27,9 +27,25 @@ check_desktop_tree "$scratch/root/usr" "$id" "$sizes"
 # Nothing else rides along: no headers, static libraries or test programs of the build.
 stray=$(cd "$scratch/root" && find . -type f ! -path ./usr/bin/tarnic-pro \
     ! -path "./usr/share/applications/$id.desktop" ! -path "./usr/share/metainfo/$id.metainfo.xml" \
-    ! -path "./usr/share/icons/hicolor/*/apps/$id.*" ! -path "./usr/share/doc/tarnic-pro/*")
+    ! -path "./usr/share/icons/hicolor/*/apps/$id.*" ! -path "./usr/share/doc/tarnic-pro/*" \
+    ! -path ./usr/share/man/man1/tarnic-pro.1.gz)
 [ -z "$stray" ] || fail "the package holds files it should not: $stray"
 validate_desktop_files "$scratch/root/usr" "$id"
+
+# What Debian asks of every package: the licence, a changelog and a manual page that man can read.
+doc=$scratch/root/usr/share/doc/tarnic-pro
+grep -q '^License: Expat' "$doc/copyright" || fail "no Expat licence in $doc/copyright"
+grep -q 'Permission is hereby granted' "$doc/copyright" || fail "$doc/copyright lacks the licence text"
+zcat "$doc/changelog.gz" | head -n 1 | grep -q "^tarnic-pro ($version) " ||
+    fail "changelog.gz does not start with version $version"
+page=$(MANWIDTH=80 man -l "$scratch/root/usr/share/man/man1/tarnic-pro.1.gz" 2>&1) ||
+    fail "man cannot format tarnic-pro(1): $page"
+grep -Eq 'tarnic-pro +- hotkey editor' <<<"$page" || fail "tarnic-pro(1) has no NAME line"
+# A home page is only named for a real site, never for the loopback copy of it.
+homepage=$(field Homepage)
+case "$homepage" in
+*://127.* | *://localhost* | *://\[::1\]*) fail "Homepage names the loopback site $homepage" ;;
+esac
 
 # Depends: every library the program needs must come from a package the Depends line names. The C
 # library always comes with the minimum version its symbols ask for: dpkg-shlibdeps wrote the line.
