@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds with AddressSanitizer and UndefinedBehaviorSanitizer, and runs
-# every test.
+# Installs what is missing, checks the formatting, builds with AddressSanitizer and
+# UndefinedBehaviorSanitizer, and runs every test.
 set -euo pipefail
 top=$(cd "$(dirname "$0")/.." && pwd)
 cd "$top"
@@ -8,6 +8,8 @@ scripts/deps.sh test
 
 build=build/test
 cmake -S . -B "$build" -DCMAKE_BUILD_TYPE=Debug -DTARNIC_SANITIZE=ON >/dev/null
+# Formatting first: a quick check that names every file clang-format would change.
+cmake --build "$build" --target format-check
 cmake --build "$build" -j "$(nproc)"
 
 export QT_QPA_PLATFORM=offscreen

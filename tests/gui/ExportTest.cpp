@@ -1,6 +1,5 @@
 #include "EditorFixture.h"
 
-
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>

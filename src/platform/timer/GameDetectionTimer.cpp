@@ -4,9 +4,10 @@
 
 namespace tarnic {
 
-GameDetectionTimer::GameDetectionTimer(RemapperSession& session, QObject* parent)
+GameDetectionTimer::GameDetectionTimer(RemapperSession& session, QObject* parent,
+                                       std::chrono::milliseconds interval)
     : QObject(parent), session_(session) {
-    timer_.setInterval(kIntervalMs);
+    timer_.setInterval(interval);
     timer_.setSingleShot(false);
     // Coarse is plenty: nothing depends on the exact moment of a tick.
     timer_.setTimerType(Qt::CoarseTimer);

@@ -3,13 +3,16 @@
 #include <QObject>
 #include <QTimer>
 
+#include <chrono>
+
 namespace tarnic {
 
 class RemapperSession;
 
 // The remapper's repeating game-detection tick: every 2 seconds, the first 2 seconds after it
 // starts, it lets the session look at the frontmost application. It runs on the thread that
-// created it (the main thread) until it is destroyed.
+// created it (the main thread) until it is destroyed. Tests give it a shorter interval so that
+// they need not wait for real seconds.
 class GameDetectionTimer : public QObject {
     Q_OBJECT
 
@@ -17,7 +20,9 @@ public:
     static constexpr int kIntervalMs = 2000;
 
     // Starts at once. `session` must outlive the timer.
-    explicit GameDetectionTimer(RemapperSession& session, QObject* parent = nullptr);
+    explicit GameDetectionTimer(
+        RemapperSession& session, QObject* parent = nullptr,
+        std::chrono::milliseconds interval = std::chrono::milliseconds(kIntervalMs));
 
     const QTimer& timer() const { return timer_; }
 
