@@ -19,8 +19,8 @@ int main(int argc, char* argv[]) {
     QGuiApplication::setDesktopFileName(QStringLiteral("org.tarnic.TarnicPro"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.tarnic.TarnicPro")));
 
-    // How keys of other applications are watched and keypad keys typed: X11 normally, the
-    // recording fakes when TARNIC_PLATFORM=fake.
+    // How keys of other applications are watched and keypad keys typed: X11, or nothing at all
+    // when no X server can be reached.
     tarnic::Platform platform = tarnic::makePlatform();
     tarnic::AppDelegate delegate(*platform.accessibilityTrust);
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &delegate,

@@ -53,14 +53,4 @@ const std::vector<AbilityRecord>& all_data() {
     return records;
 }
 
-const std::string& ANtm() {
-    static const std::string text = requiredField(transmute_(), def);
-    return text;
-}
-
-const std::string& ANtmEdit() {
-    static const std::string text = requiredField(transmute_(), for_edit);
-    return text;
-}
-
 } // namespace tarnic

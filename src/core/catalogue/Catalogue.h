@@ -12,9 +12,4 @@ namespace tarnic {
 // Repair, which have no owner. Each record is also reachable by name (CatalogueRecords.h).
 const std::vector<AbilityRecord>& all_data();
 
-// Transmute's name and copies of its two texts, kept beside the records; nothing reads them.
-inline constexpr char Transmute[] = "Transmute";
-const std::string& ANtm();
-const std::string& ANtmEdit();
-
 } // namespace tarnic

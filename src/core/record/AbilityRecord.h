@@ -23,16 +23,8 @@ inline constexpr char new_edit[] = "new edit";
 // The hotkey-position marker: U+2714 HEAVY CHECK MARK followed by U+FE0E VARIATION SELECTOR-15.
 // Always searched for as the whole two-code-point string; a lone U+2714 is not a marker.
 inline constexpr char mark[] = "\xE2\x9C\x94\xEF\xB8\x8E";
-// U+25CF BLACK CIRCLE, a second marker that nothing uses.
-inline constexpr char markUn[] = "\xE2\x97\x8F";
-
-// Spare keys that no operation uses.
-inline constexpr char sel_item[] = "selected item";
-inline constexpr char send_def[] = "send def";
-
-// The game's hotkey override file.
+// The name the save dialog proposes for the game's hotkey override file.
 inline constexpr char custKs[] = "CustomKeys";
-inline constexpr char custKsTxt[] = "CustomKeys.txt";
 
 // Literal, left-to-right, non-overlapping replacement of every `what` in `text`.
 // An empty `what` leaves the text as it is.

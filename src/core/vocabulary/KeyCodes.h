@@ -36,10 +36,6 @@ inline constexpr std::array<std::string_view, 22> keyboardKeysNum = {
 // The pop-up title that means "no key".
 inline constexpr char select[] = "Select";
 
-// Keys of the inventory selection, kept with the vocabulary; nothing reads them.
-inline constexpr char key_inv_sel[] = "inventory selected";
-inline constexpr char key_flag_sel[] = "selected flag";
-inline constexpr char key_sel[] = "selected key";
 
 // The game's bundle identifier.
 inline constexpr char war3ID[] = "com.blizzard.WarcraftIII";

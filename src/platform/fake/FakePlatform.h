@@ -21,7 +21,7 @@ struct FakeParts {
 // Its key observer reports nothing while its trust is turned off.
 Platform makeFakePlatform();
 
-// The fakes inside `platform` (for example one that makePlatform() chose at start-up).
+// The fakes inside `platform`, which makeFakePlatform() made.
 FakeParts fakeParts(const Platform& platform);
 
 } // namespace tarnic

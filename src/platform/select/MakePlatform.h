@@ -1,18 +1,13 @@
 #pragma once
 
 #include "core/platform/Platform.h"
-#include "platform/select/PlatformChoice.h"
 
 namespace tarnic {
 
-// The platform for this run, chosen once at start-up from TARNIC_PLATFORM: the X11 backend
-// normally, the recording fakes with TARNIC_PLATFORM=fake (for running the window where no
-// display server may be watched or typed into, and for tests of the whole program). Call it
-// after the QApplication exists: the X11 backend shares its display connection's thread.
+// The platform for this run, made once at start-up: the X11 backend on $DISPLAY, or, when no X
+// server can be reached (none at all, or a Wayland session without XWayland), the null platform,
+// with a note on standard error. Call it after the QApplication exists: the X11 backend reads its
+// recording from the main thread's event loop.
 Platform makePlatform();
-
-// The platform of a given choice. A build without the X11 backend gives the fakes for X11
-// too, untrusted, and says so on standard error.
-Platform makePlatform(PlatformChoice choice);
 
 } // namespace tarnic

@@ -175,14 +175,5 @@ TEST(Catalogue, BlocksUseLineFeedsOnlyAndEndWithoutOne) {
     }
 }
 
-TEST(Catalogue, TransmuteConstantsCopyTheTransmuteRecord) {
-    EXPECT_STREQ(Transmute, "Transmute");
-    EXPECT_EQ(transmute_().at(name_spell), Transmute);
-    EXPECT_EQ(ANtm(), transmute_().at(def));
-    EXPECT_EQ(ANtmEdit(), transmute_().at(for_edit));
-    EXPECT_NE(ANtm().data(), transmute_().at(def).data());
-    EXPECT_TRUE(ANtm().find("[ANtm]") != std::string::npos);
-}
-
 } // namespace
 } // namespace tarnic

@@ -110,11 +110,8 @@ TEST(KeyCodes, PopupArraysAreInKeyboardOrder) {
                                                       "'", "<", ">", "?", "~", "§"}));
 }
 
-TEST(KeyCodes, SelectionKeysAndGameIdentifier) {
+TEST(KeyCodes, NoKeyTitleAndGameIdentifier) {
     EXPECT_STREQ(select, "Select");
-    EXPECT_STREQ(key_inv_sel, "inventory selected");
-    EXPECT_STREQ(key_flag_sel, "selected flag");
-    EXPECT_STREQ(key_sel, "selected key");
     EXPECT_STREQ(war3ID, "com.blizzard.WarcraftIII");
 }
 

@@ -1,0 +1,41 @@
+#include "platform/null/NullPlatform.h"
+
+namespace tarnic {
+
+namespace {
+
+class NullKeyObserver : public KeyObserver {
+public:
+    // Nothing is ever observed, so a handler would never be called: it is not even kept.
+    void addKeyDownMonitor(Handler) override {}
+    void addFlagsChangedMonitor(Handler) override {}
+};
+
+class NullKeyPoster : public KeyPoster {
+public:
+    void postKeyDown(std::uint16_t) override {}
+    void postKeyUp(std::uint16_t) override {}
+};
+
+class NullFrontmostApplication : public FrontmostApplication {
+public:
+    std::optional<std::string> bundleIdentifier() const override { return std::nullopt; }
+};
+
+class Untrusted : public AccessibilityTrust {
+public:
+    bool isProcessTrusted() const override { return false; }
+};
+
+} // namespace
+
+Platform makeNullPlatform() {
+    Platform platform;
+    platform.keyObserver = std::make_unique<NullKeyObserver>();
+    platform.keyPoster = std::make_unique<NullKeyPoster>();
+    platform.frontmostApplication = std::make_unique<NullFrontmostApplication>();
+    platform.accessibilityTrust = std::make_unique<Untrusted>();
+    return platform;
+}
+
+} // namespace tarnic
