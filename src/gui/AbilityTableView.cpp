@@ -50,7 +50,6 @@ void selectRow(QTableView& table, int row) {
     const QModelIndex index = model->index(row, 0);
     table.selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect |
                                                        QItemSelectionModel::Rows);
-    emit table.clicked(index);
 }
 
 int selectedRow(const QTableView& table) {

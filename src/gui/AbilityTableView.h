@@ -18,9 +18,8 @@ protected:
                                                          const QEvent* event) const override;
 };
 
-// Selects exactly `row`, replacing the selection, then runs the table's action as a click on
-// that row would (its clicked signal). A row the table does not have selects nothing and runs
-// nothing.
+// Selects exactly `row`, replacing the selection; whoever watches the selection hears of it once.
+// A row the table does not have selects nothing.
 void selectRow(QTableView& table, int row);
 
 // The selected row, or -1.

@@ -1,5 +1,6 @@
 #include "gui/MainWindow.h"
 
+#include "contact/ContactPanel.h"
 #include "gui/ViewController.h"
 #include "ui_MainWindow.h"
 
@@ -19,6 +20,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui_(new Ui::MainW
     }
     // Quitting is closing the main window.
     connect(ui_->actionQuit, &QAction::triggered, this, &QWidget::close);
+    connect(ui_->actionContact, &QAction::triggered, this, [this] { showContactPanel(this); });
 }
 
 MainWindow::~MainWindow() = default;

@@ -24,9 +24,6 @@ public:
     // as an interface file would. Call once, before the controller's viewDidLoad.
     void connectController(ViewController& controller);
 
-    // The window's controls, for the tests that drive it as a player would.
-    Ui::MainWindow& ui() { return *ui_; }
-
 private:
     std::unique_ptr<Ui::MainWindow> ui_;
 };

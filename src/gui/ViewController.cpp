@@ -10,7 +10,6 @@
 #include "gui/AbilityTableView.h"
 #include "gui/GuiResources.h"
 #include "gui/Outlet.h"
-#include "platform/timer/GameDetectionTimer.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -45,10 +44,9 @@ QPixmap pictureNamed(const std::string& name) {
 
 } // namespace
 
-ViewController::ViewController(QSettings& settings, Platform& platform, QObject* parent)
+ViewController::ViewController(QSettings& settings, QObject* parent)
     : QObject(parent), mainDic(all_data()), keyboardKeys(tarnic::keyboardKeys),
-      keyboardKeysNum(tarnic::keyboardKeysNum), defaults_(settings),
-      remapperSession_(inventoryModels, platform), tableModel_(mainDic) {
+      keyboardKeysNum(tarnic::keyboardKeysNum), defaults_(settings), tableModel_(mainDic) {
     initGuiResources();
 }
 
@@ -82,11 +80,6 @@ void ViewController::viewDidLoad() {
     table.setModel(&tableModel_);
     connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &ViewController::tableViewSelectionDidChange);
-    connect(&table, &QTableView::clicked, this, &ViewController::tableViewSelectionDidChange);
-    // A second, separate observer of the same change: the handler must not care how often it
-    // runs for one change.
-    connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &ViewController::tableViewSelectionDidChange);
 
     if (std::optional<std::vector<AbilityRecord>> stored = defaults_.mainDic()) {
         mainDic = std::move(*stored);
@@ -108,11 +101,6 @@ void ViewController::viewDidLoad() {
                     windowWillClose();
                 }
             });
-
-    // The inventory remapper: watch the keys of other applications (key-down, then modifier
-    // changes) and look for the game every 2 seconds. Neither is ever removed.
-    remapperSession_.installObservers();
-    new GameDetectionTimer(remapperSession_, this);
 }
 
 void ViewController::viewDidAppear() {

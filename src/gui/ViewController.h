@@ -1,9 +1,7 @@
 #pragma once
 
-#include "core/platform/Platform.h"
 #include "core/record/AbilityRecord.h"
 #include "core/remapper/InventoryRemapper.h"
-#include "core/remapper/RemapperSession.h"
 #include "core/vocabulary/KeyCodes.h"
 #include "gui/AbilityTableModel.h"
 #include "gui/FileDialog.h"
@@ -26,16 +24,16 @@
 
 namespace tarnic {
 
-// The controller of the main window. It owns all the state of the hotkey editor and of the
-// inventory keys: the working list of abilities, the six slot bindings and the export buffers.
-// The window owns the controls; the controller only points at them (the outlets below, set by
-// the window) and its actions are connected by the window.
+// The controller of the main window. It owns all the state of the hotkey editor and the six slot
+// bindings of the inventory keys, with the working list of abilities and the export buffers. The
+// window owns the controls; the controller only points at them (the outlets below, set by the
+// window) and its actions are connected by the window. Watching keys is not its business: the
+// remapper session reads the bindings it keeps.
 class ViewController : public QObject {
     Q_OBJECT
 public:
-    // `settings` is the user defaults store and `platform` watches and types keys for the
-    // inventory remapper; both must outlive the controller.
-    ViewController(QSettings& settings, Platform& platform, QObject* parent = nullptr);
+    // `settings` is the user defaults store; it must outlive the controller.
+    explicit ViewController(QSettings& settings, QObject* parent = nullptr);
     ~ViewController() override;
 
     // The whole text of the ":/defaultkeys" template, read when the view loads.
@@ -77,10 +75,6 @@ public:
     FileDialog& fileDialog() { return fileDialog_; }
     // The table's data.
     AbilityTableModel& tableModel() { return tableModel_; }
-    // The inventory remapper's decisions and its modifier and game state (flagHold, isFlag,
-    // isWarRun), fed by the key observers that the view installs when it loads.
-    InventoryRemapper& remapper() { return remapperSession_.remapper(); }
-    const InventoryRemapper& remapper() const { return remapperSession_.remapper(); }
 
     // Actions.
     void eraseKey();
@@ -118,7 +112,6 @@ private:
     void writeResult(const std::optional<QString>& path);
 
     UserDefaults defaults_;
-    RemapperSession remapperSession_;
     AbilityTableModel tableModel_;
     FileDialog fileDialog_;
     QPointer<QWidget> window_;

@@ -28,19 +28,17 @@ void EditorFixture::TearDown() {
 
 void EditorFixture::launch() {
     shutDown();
-    settings_ = openUserDefaults();
-    controller_ = std::make_unique<ViewController>(*settings_, platform_);
-    window_ = std::make_unique<MainWindow>();
-    window_->connectController(*controller_);
-    controller_->viewDidLoad();
-    window_->show();
-    controller_->viewDidAppear();
+    Application::Options options;
+    options.siteUrl.clear();
+    options.gameDetectionInterval = kTestTickInterval;
+    app_ = std::make_unique<Application>(makeFakePlatform(), options);
+    controls_ = std::make_unique<WindowControls>(app_->window());
+    app_->start();
 }
 
 void EditorFixture::shutDown() {
-    window_.reset();
-    controller_.reset();
-    settings_.reset();
+    controls_.reset();
+    app_.reset();
     // A quit asked for by a test that is over must not end the next test's event loop.
     QCoreApplication::removePostedEvents(QCoreApplication::instance(), QEvent::MetaCall);
 }

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "WindowControls.h"
+#include "app/Application.h"
 #include "core/record/AbilityRecord.h"
 #include "core/remapper/InventoryRemapper.h"
 #include "gui/MainWindow.h"
 #include "gui/ViewController.h"
 #include "platform/fake/FakePlatform.h"
-#include "ui_MainWindow.h"
 
 #include <QByteArray>
 #include <QSettings>
@@ -19,15 +20,18 @@
 
 namespace tarnic::testing {
 
-// One start of the application on a private store: every test gets its own XDG config folder
-// (XDG_CONFIG_HOME in a temporary folder), and may start the application more than once on it.
+// One start of the application, put together exactly as the program is, on the recording fakes
+// and a private store: every test gets its own XDG config folder (XDG_CONFIG_HOME in a temporary
+// folder), and may start the application more than once on it. The version gate is left out (no
+// site), and the game-detection timer ticks every few milliseconds instead of every 2 seconds.
 class EditorFixture : public ::testing::Test {
 protected:
     void SetUp() override;
     void TearDown() override;
 
-    // Starts the application as main() does: store, controller, window, view loading, shown.
+    // Starts the application as main() does, on a fresh set of fakes.
     void launch();
+    static constexpr std::chrono::milliseconds kTestTickInterval{20};
     // Ends this start (without quitting the test's application object).
     void shutDown();
 
@@ -48,17 +52,16 @@ protected:
     QString storePath() const;
     QString tempPath(const QString& name) const { return dir_.filePath(name); }
 
-    Ui::MainWindow& ui() { return window_->ui(); }
-    ViewController& vc() { return *controller_; }
-    MainWindow& window() { return *window_; }
+    WindowControls& ui() { return *controls_; }
+    Application& app() { return *app_; }
+    ViewController& vc() { return app_->controller(); }
+    MainWindow& window() { return app_->window(); }
+    // What the remapper watches and types through: recording fakes the tests drive.
+    FakeParts fakes() { return fakeParts(app_->platform()); }
 
     QTemporaryDir dir_;
-    // What the remapper watches and types through: recording fakes the tests drive.
-    Platform platform_ = makeFakePlatform();
-    FakeParts fakes() const { return fakeParts(platform_); }
-    std::unique_ptr<QSettings> settings_;
-    std::unique_ptr<ViewController> controller_;
-    std::unique_ptr<MainWindow> window_;
+    std::unique_ptr<Application> app_;
+    std::unique_ptr<WindowControls> controls_;
 
 private:
     QByteArray previousConfigHome_;

@@ -6,6 +6,7 @@
 #include "core/vocabulary/KeyCodes.h"
 #include "gui/GuiResources.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 
@@ -23,13 +24,10 @@ namespace {
 class EditorState : public EditorFixture {};
 
 TEST_F(EditorState, InitialValuesBeforeTheViewLoads) {
-    settings_ = openUserDefaults();
-    ViewController controller(*settings_, platform_);
+    const std::unique_ptr<QSettings> settings = openUserDefaults();
+    ViewController controller(*settings);
     EXPECT_EQ(controller.def_keys_bundle, "");
     EXPECT_EQ(controller.result, "");
-    EXPECT_EQ(controller.remapper().flagHold, -1);
-    EXPECT_FALSE(controller.remapper().isFlag);
-    EXPECT_FALSE(controller.remapper().isWarRun);
     EXPECT_EQ(controller.inventoryEditNow, 0);
     for (const InventoryModel& model : controller.inventoryModels) {
         EXPECT_TRUE(model.empty());
@@ -212,8 +210,8 @@ TEST_F(EditorStateDeathTest, BindingOfTheWrongTypeEndsTheProgram) {
 }
 
 TEST_F(EditorStateDeathTest, UnconnectedOutletEndsTheProgram) {
-    settings_ = openUserDefaults();
-    ViewController controller(*settings_, platform_);
+    const std::unique_ptr<QSettings> settings = openUserDefaults();
+    ViewController controller(*settings);
     EXPECT_DEATH(controller.viewDidLoad(),
                  "Unexpectedly found nil while implicitly unwrapping an Optional value: keysPopup");
 }

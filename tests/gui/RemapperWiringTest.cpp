@@ -24,6 +24,25 @@ protected:
     }
 };
 
+TEST_F(RemapperWiring, NothingIsWatchedBeforeTheStartAndTheRemapperStartsCleared) {
+    Application::Options options;
+    options.siteUrl.clear();
+    Application built(makeFakePlatform(), options);
+    const FakeParts parts = fakeParts(built.platform());
+    EXPECT_EQ(parts.keyObserver->keyDownMonitorCount(), 0u);
+    EXPECT_EQ(parts.keyObserver->flagsChangedMonitorCount(), 0u);
+    EXPECT_EQ(built.gameDetectionTimer(), nullptr);
+    const InventoryRemapper& remapper = built.remapperSession().remapper();
+    EXPECT_EQ(remapper.flagHold, -1);
+    EXPECT_FALSE(remapper.isFlag);
+    EXPECT_FALSE(remapper.isWarRun);
+    // The session reads the controller's bindings, not a copy of them.
+    built.controller().inventoryModels[0] = {1, 0, 12};
+    built.remapperSession().installObservers();
+    ASSERT_TRUE(parts.keyObserver->pressKey(12));
+    EXPECT_EQ(parts.keyPoster->posts(), (Posts{"89 down", "89 up"}));
+}
+
 TEST_F(RemapperWiring, ViewLoadingInstallsOneKeyDownAndOneModifierMonitor) {
     launch();
     EXPECT_EQ(fakes().keyObserver->keyDownMonitorCount(), 1u);
@@ -66,18 +85,22 @@ TEST_F(RemapperWiring, DeletedBindingNoLongerTaps) {
     EXPECT_TRUE(fakes().keyPoster->posts().empty());
 }
 
-TEST_F(RemapperWiring, GameDetectionTicksEveryTwoSecondsAndFindsTheGame) {
+TEST_F(RemapperWiring, GameDetectionTicksAndFindsTheGame) {
     launch();
-    const QList<GameDetectionTimer*> timers = vc().findChildren<GameDetectionTimer*>();
-    ASSERT_EQ(timers.size(), 1);
-    EXPECT_EQ(timers.front()->timer().interval(), 2000);
-    EXPECT_FALSE(timers.front()->timer().isSingleShot());
-    EXPECT_FALSE(vc().remapper().isWarRun);
+    GameDetectionTimer* timer = app().gameDetectionTimer();
+    ASSERT_NE(timer, nullptr);
+    EXPECT_EQ(timer->timer().interval(), kTestTickInterval.count());
+    EXPECT_FALSE(timer->timer().isSingleShot());
+    EXPECT_FALSE(app().remapperSession().remapper().isWarRun);
 
     fakes().frontmostApplication->setBundleIdentifier(std::string(war3ID));
-    QSignalSpy ticks(timers.front(), &GameDetectionTimer::ticked);
+    QSignalSpy ticks(timer, &GameDetectionTimer::ticked);
     ASSERT_TRUE(ticks.wait(5000));
-    EXPECT_TRUE(vc().remapper().isWarRun);
+    EXPECT_TRUE(app().remapperSession().remapper().isWarRun);
+}
+
+TEST_F(RemapperWiring, TheProgramTicksEveryTwoSeconds) {
+    EXPECT_EQ(Application::Options().gameDetectionInterval, std::chrono::seconds(2));
 }
 
 } // namespace

@@ -1,0 +1,37 @@
+#include "app/Application.h"
+
+#include "shell/SiteAddress.h"
+#include "store/UserDefaults.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+
+namespace tarnic {
+
+Application::Options::Options() : siteUrl(siteBaseUrl()) {}
+
+Application::Application(Platform platform, Options options)
+    : options_(std::move(options)), store_(openUserDefaults()), platform_(std::move(platform)),
+      controller_(*store_), remapperSession_(controller_.inventoryModels, platform_),
+      delegate_(*platform_.accessibilityTrust, options_.siteUrl,
+                options_.alerts != nullptr ? *options_.alerts : messageBoxes_) {
+    QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &delegate_,
+                     &AppDelegate::applicationWillTerminate);
+    window_.connectController(controller_);
+}
+
+Application::~Application() = default;
+
+void Application::start() {
+    controller_.viewDidLoad();
+    // The inventory remapper: watch the keys of other applications (key-down, then modifier
+    // changes) and look for the game every 2 seconds. Neither is ever removed.
+    remapperSession_.installObservers();
+    gameDetectionTimer_ = std::make_unique<GameDetectionTimer>(remapperSession_, nullptr,
+                                                               options_.gameDetectionInterval);
+    window_.show();
+    controller_.viewDidAppear();
+    QTimer::singleShot(0, &delegate_, &AppDelegate::applicationDidFinishLaunching);
+}
+
+} // namespace tarnic

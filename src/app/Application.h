@@ -1,0 +1,71 @@
+#pragma once
+
+#include "core/platform/Platform.h"
+#include "core/remapper/RemapperSession.h"
+#include "gui/MainWindow.h"
+#include "gui/ViewController.h"
+#include "platform/timer/GameDetectionTimer.h"
+#include "shell/AppDelegate.h"
+#include "shell/MessageBoxAlertPresenter.h"
+
+#include <QSettings>
+#include <QString>
+
+#include <chrono>
+#include <memory>
+
+namespace tarnic {
+
+class AlertPresenter;
+
+// The whole program, put together in one place, in start-up order: the store, the platform, the
+// controller with the remapper session and its game-detection timer, the window with its menus,
+// and the delegate. `main` runs one; the window tests run one on the recording fakes.
+class Application {
+public:
+    // What differs between the program and its tests. The program uses the defaults.
+    struct Options {
+        // The maker's site, for the version gate.
+        QString siteUrl;
+        // Where the version gate's alert goes; null: a real message box.
+        AlertPresenter* alerts = nullptr;
+        std::chrono::milliseconds gameDetectionInterval{GameDetectionTimer::kIntervalMs};
+
+        Options();
+    };
+
+    // Opens the store and builds everything on `platform`; nothing is shown or loaded yet. Needs
+    // the QApplication.
+    explicit Application(Platform platform, Options options = Options());
+    ~Application();
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+
+    // Loads the view (the store's bindings and list, the template, row 0), installs the key
+    // observers and the game-detection timer, and shows the window. Launching finishes once the
+    // event loop runs: the trust line, then the version gate. Call once.
+    void start();
+
+    QSettings& store() { return *store_; }
+    Platform& platform() { return platform_; }
+    ViewController& controller() { return controller_; }
+    RemapperSession& remapperSession() { return remapperSession_; }
+    // Null until start().
+    GameDetectionTimer* gameDetectionTimer() { return gameDetectionTimer_.get(); }
+    MainWindow& window() { return window_; }
+    AppDelegate& delegate() { return delegate_; }
+
+private:
+    Options options_;
+    std::unique_ptr<QSettings> store_;
+    Platform platform_;
+    ViewController controller_;
+    // After the controller: it reads the controller's six bindings on every key press.
+    RemapperSession remapperSession_;
+    std::unique_ptr<GameDetectionTimer> gameDetectionTimer_;
+    MainWindow window_;
+    MessageBoxAlertPresenter messageBoxes_;
+    AppDelegate delegate_;
+};
+
+} // namespace tarnic
