@@ -3,6 +3,7 @@
 #include "gui/MainWindow.h"
 #include "gui/ViewController.h"
 #include "platform/select/MakePlatform.h"
+#include "process/QuitOnSignals.h"
 #include "shell/AppDelegate.h"
 #include "store/UserDefaults.h"
 #include "ui_MainWindow.h"
@@ -19,8 +20,12 @@ int main(int argc, char* argv[]) {
     QGuiApplication::setDesktopFileName(QStringLiteral("org.tarnic.TarnicPro"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.tarnic.TarnicPro")));
 
+    // SIGTERM, SIGINT and SIGHUP leave the event loop like closing the window, so that the
+    // objects below are destroyed in order (the platform gives back the keycodes it claimed).
+    tarnic::QuitOnSignals quitOnSignals;
+
     // How keys of other applications are watched and keypad keys typed: X11 normally, the
-    // recording fakes when TARNIC_PLATFORM=fake.
+    // recording fakes when TARNIC_PLATFORM=fake. Lives until exec() has returned.
     tarnic::Platform platform = tarnic::makePlatform();
     tarnic::AppDelegate delegate(*platform.accessibilityTrust);
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &delegate,
