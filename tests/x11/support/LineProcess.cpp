@@ -12,6 +12,10 @@ LineProcess::~LineProcess() {
 
 bool LineProcess::start(const QString& program, const QStringList& arguments,
                         const QProcessEnvironment& environment, Errors errors) {
+    // A fresh start: lines of an earlier run are gone.
+    lines_.clear();
+    partial_.clear();
+    errors_.clear();
     endWithTest(process_);
     process_.setProcessEnvironment(environment);
     process_.setProcessChannelMode(errors == Errors::Forward ? QProcess::ForwardedErrorChannel
