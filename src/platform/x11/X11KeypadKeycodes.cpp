@@ -254,10 +254,9 @@ bool X11KeypadKeycodes::readEvents() {
             }
         } else if (xkbEventBase_ >= 0 && event.type == xkbEventBase_) {
             auto* xkb = reinterpret_cast<XkbEvent*>(&event);
-            if (xkb->any.xkb_type == XkbMapNotify) {
+            if (xkb->any.xkb_type == XkbMapNotify || xkb->any.xkb_type == XkbNewKeyboardNotify) {
+                // Also takes in a new keycode range, which the keymap is read over.
                 XkbRefreshKeyboardMapping(&xkb->map);
-                changed = true;
-            } else if (xkb->any.xkb_type == XkbNewKeyboardNotify) {
                 changed = true;
             }
         }
