@@ -1,5 +1,6 @@
 #include "app/Application.h"
 #include "platform/select/MakePlatform.h"
+#include "process/QuitOnSignals.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -11,6 +12,10 @@ int main(int argc, char* argv[]) {
     // Ties the window to its launcher and icon on the desktop.
     QGuiApplication::setDesktopFileName(QStringLiteral("org.tarnic.TarnicPro"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.tarnic.TarnicPro")));
+
+    // SIGTERM, SIGINT and SIGHUP leave the event loop like closing the window, so that the
+    // application below is destroyed in order (its platform gives back the keycodes it claimed).
+    tarnic::QuitOnSignals quitOnSignals;
 
     tarnic::Application app(tarnic::makePlatform());
     app.start();

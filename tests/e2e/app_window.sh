@@ -3,10 +3,14 @@
 # real window manager.
 #   app_window.sh APP SITE_DIR PORT up     site reachable: the main window shows; closing it ends
 #                                          the application
+#   app_window.sh APP SITE_DIR PORT quit   site reachable: the main window shows; Ctrl+Q ends the
+#                                          application
 #   app_window.sh APP SITE_DIR PORT down   nothing listens: the alert shows over the window and
 #                                          the application ends once "Ok" is pressed
+# With KEYPAD_PROBE (tarnic_x11_keypad_probe) as a fifth argument, also: the application holds
+# six keycodes for its keypad taps while it runs and gives them all back when it ends.
 set -u
-app=$1 site=$2 port=$3 mode=$4
+app=$1 site=$2 port=$3 mode=$4 keypad_probe=${5:-}
 here=$(cd "$(dirname "$0")" && pwd)
 # shellcheck source=../support/xvfb-session.sh
 . "$here/../support/xvfb-session.sh"
@@ -24,7 +28,7 @@ fail() { echo "FAIL: $*" >&2; echo "--- application output:" >&2; cat "$work/out
 xvfb_start || fail "Xvfb did not start"
 wm_start || fail "openbox did not start"
 
-if [ "$mode" = up ]; then
+if [ "$mode" != down ]; then
     python3 -m http.server --bind 127.0.0.1 --directory "$site" "$port" >/dev/null 2>"$work/site.log" &
     SITE_PID=$!
     deadline=$((SECONDS + 20))
@@ -51,7 +55,24 @@ wait_for_exit() { # seconds
 
 main_window=$(wait_for_window "Tarnic Pro" 60) || fail "no main window appeared"
 
-if [ "$mode" = up ]; then
+# The keycodes are claimed when the platform starts, before the window shows.
+keypad_claimed() {
+    [ -z "$keypad_probe" ] && return 0
+    local out
+    out=$("$keypad_probe") || fail "the keypad probe failed"
+    [ "$(grep -c '^digit ' <<<"$out")" -eq 6 ] && grep -q '^record ' <<<"$out" ||
+        fail "the application does not hold six keypad keycodes: $out"
+}
+keypad_given_back() {
+    [ -z "$keypad_probe" ] && return 0
+    local out
+    out=$("$keypad_probe") || fail "the keypad probe failed"
+    [ -z "$out" ] || fail "keypad keycodes left behind after the end: $out"
+    echo "PASS: the keypad keycodes were held while running and given back at the end"
+}
+keypad_claimed
+
+if [ "$mode" != down ]; then
     # The gate has passed once the site has served the version file and the application is
     # still there.
     deadline=$((SECONDS + 30))
@@ -62,11 +83,21 @@ if [ "$mode" = up ]; then
     grep -q '^AXIsProcessTrusted \(true\|false\)$' "$work/out" || fail "no diagnostic line"
     kill -0 "$APP_PID" 2>/dev/null || fail "the application ended although the site is up"
     [ "$(grep -c AXIsProcessTrusted "$work/out")" -eq 1 ] || fail "the diagnostic line is not printed exactly once"
-    # Closing the main window through the window manager ends the application.
-    wmctrl -i -c "$main_window" || fail "could not ask the window manager to close the window"
-    wait_for_exit 20 || fail "closing the main window did not end the application"
-    [ "$APP_RC" -eq 0 ] || fail "the application ended with status $APP_RC"
-    echo "PASS: main window shown, closing it ended the application"
+    if [ "$mode" = quit ]; then
+        # Ctrl+Q, typed (XTest) into the focused main window, ends the application.
+        xdotool windowactivate --sync "$main_window" || fail "could not activate the main window"
+        xdotool key ctrl+q || fail "could not type Ctrl+Q"
+        wait_for_exit 20 || fail "Ctrl+Q did not end the application"
+        [ "$APP_RC" -eq 0 ] || fail "the application ended with status $APP_RC"
+        echo "PASS: main window shown, Ctrl+Q ended the application"
+    else
+        # Closing the main window through the window manager ends the application.
+        wmctrl -i -c "$main_window" || fail "could not ask the window manager to close the window"
+        wait_for_exit 20 || fail "closing the main window did not end the application"
+        [ "$APP_RC" -eq 0 ] || fail "the application ended with status $APP_RC"
+        echo "PASS: main window shown, closing it ended the application"
+    fi
+    keypad_given_back
 else
     # The alert is a second window of the application, modal over the main one, and active.
     deadline=$((SECONDS + 60))
@@ -85,4 +116,5 @@ else
     wait_for_exit 20 || fail "the application did not end after Ok"
     [ "$APP_RC" -eq 0 ] || fail "the application ended with status $APP_RC"
     echo "PASS: alert shown with the site down, the application ended after Ok"
+    keypad_given_back
 fi

@@ -1,10 +1,14 @@
 // The remapper's taps as the game would get them: a Windows program run by Wine on a private
 // Xvfb with openbox logs the virtual keys it receives while the stand-in application remaps.
+// Bindings with and without Shift, Shift held or not, Num Lock on and off: every slot's tap must
+// arrive as its VK_NUMPADn with the keypad's scan code, never as a cursor key, and Num Lock must
+// be left exactly as it was.
+#include "x11/support/KeymapProbe.h"
 #include "x11/support/LineProcess.h"
 #include "x11/support/QtPrinters.h"
+#include "x11/support/XKeycodes.h"
 #include "x11/support/XTestDriver.h"
 #include "x11/support/XvfbSession.h"
-#include "x11/support/XKeycodes.h"
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -14,33 +18,199 @@
 #include <linux/input-event-codes.h>
 
 #include <chrono>
-#include <thread>
+#include <csignal>
+#include <optional>
+#include <string>
 
 namespace tarnic {
 namespace {
 
 using namespace std::chrono_literals;
+using testing::KeymapProbe;
 using testing::LineProcess;
 using testing::XTestDriver;
 using testing::XvfbSession;
 
 using testing::x;
 
+constexpr unsigned kVkShift = 0x10;
+constexpr unsigned kVkNumLock = 0x90;
+
 struct SlotKeys {
     unsigned trigger;        // evdev code of the bound key
+    int triggerMac;          // its macOS virtual key code, as bindings name it
     unsigned triggerVirtual; // what Windows calls it
     unsigned numpadVirtual;  // VK_NUMPADn of the slot
+    unsigned numpadScan;     // the keypad key's scan code
 };
 
 // Slots 1..6 bound to Q W E R T Y; their keypad keys are 7 8 4 5 1 2.
-constexpr SlotKeys kSlots[] = {{KEY_Q, 'Q', 0x67}, {KEY_W, 'W', 0x68}, {KEY_E, 'E', 0x64},
-                               {KEY_R, 'R', 0x65}, {KEY_T, 'T', 0x61}, {KEY_Y, 'Y', 0x62}};
+constexpr SlotKeys kSlots[] = {{KEY_Q, 12, 'Q', 0x67, 0x47}, {KEY_W, 13, 'W', 0x68, 0x48},
+                               {KEY_E, 14, 'E', 0x64, 0x4b}, {KEY_R, 15, 'R', 0x65, 0x4c},
+                               {KEY_T, 17, 'T', 0x61, 0x4f}, {KEY_Y, 16, 'Y', 0x62, 0x50}};
 
-TEST(Wine, RemapperTapsReachAWindowsProgramAsNumpadKeys) {
-    XvfbSession server(true);
+// One line of the Windows program's log.
+struct VirtualKey {
+    bool down = false;
+    unsigned virtualKey = 0;
+    unsigned scanCode = 0;
+    bool extended = false;
+    bool numLock = false;
+
+    static std::optional<VirtualKey> parse(const QString& line) {
+        const QStringList parts = line.split(' ');
+        if (parts.size() != 5 || (parts[0] != "down" && parts[0] != "up")) {
+            return std::nullopt;
+        }
+        return VirtualKey{parts[0] == "down", parts[1].toUInt(), parts[2].toUInt(), parts[3] == "1",
+                          parts[4] == "1"};
+    }
+};
+
+bool isCursorKey(unsigned virtualKey) {
+    // VK_PRIOR .. VK_DOWN, VK_INSERT, VK_DELETE, VK_CLEAR: what keypad keys mean with Num Lock
+    // off or Shift held.
+    return (virtualKey >= 0x21 && virtualKey <= 0x28) || virtualKey == 0x2d || virtualKey == 0x2e ||
+           virtualKey == 0x0c;
+}
+
+class WineRemapperTest : public ::testing::Test {
+protected:
+    int waitForKey(bool down, unsigned virtualKey, int from, std::chrono::milliseconds timeout) {
+        return program.waitFor(
+            [&](const QString& line) {
+                const auto key = VirtualKey::parse(line);
+                return key && key->down == down && key->virtualKey == virtualKey;
+            },
+            from, timeout);
+    }
+
+    std::string transcript() { return program.transcript().toStdString(); }
+
+    // Starts the stand-in with these bindings and waits until it records; the Windows program
+    // (once running) keeps the focus.
+    void startStandIn(const QStringList& bindings) {
+        QStringList arguments;
+        for (const QString& binding : bindings) {
+            arguments << "--bind" << binding;
+        }
+        ASSERT_TRUE(harness.start(TARNIC_HARNESS_PATH, arguments, server.environment()));
+        ASSERT_GE(harness.waitForLine("trusted true", 0, 20s), 0)
+            << harness.transcript().toStdString();
+        const int ready = harness.waitForPrefix("ready ", 0, 20s);
+        ASSERT_GE(ready, 0);
+        // Focused once so that the window manager has taken it over and will not hand it the
+        // focus later by itself.
+        ASSERT_TRUE(driver.focus(harness.lines()[ready].section(' ', 1).toULong(), 10s));
+        ASSERT_EQ(probe.recordedKeycodes().size(), 6u) << "keypad keycodes claimed at start";
+        if (programWindow != 0) {
+            ASSERT_TRUE(driver.focus(programWindow, 10s));
+        }
+    }
+
+    // Ends the stand-in as the system would at logout: it gives its keycodes back.
+    void stopStandIn() {
+        ASSERT_EQ(kill(static_cast<pid_t>(harness.processId()), SIGTERM), 0);
+        ASSERT_TRUE(harness.waitForExit(20s));
+        EXPECT_TRUE(probe.recordedKeycodes().empty());
+    }
+
+    // Wine takes in a keymap change only some time after the server announced it (about 3 s
+    // measured): tap slot 1 until its keypad key arrives as such, a bounded number of times.
+    void waitUntilWineKnowsTheKeycodes(bool withShift) {
+        bool arrived = false;
+        for (int attempt = 0; attempt < 40 && !arrived; ++attempt) {
+            const int from = program.lines().size();
+            if (withShift) {
+                driver.press(x(KEY_LEFTSHIFT));
+            }
+            driver.tap(x(kSlots[0].trigger));
+            arrived = waitForKey(true, kSlots[0].numpadVirtual, from, 1s) >= 0;
+            if (withShift) {
+                driver.release(x(KEY_LEFTSHIFT));
+            }
+            // Let the rest of the attempt arrive before the next one starts.
+            waitForKey(false, kSlots[0].triggerVirtual, from, 2s);
+        }
+        ASSERT_TRUE(arrived) << "the keypad tap never arrived as VK_NUMPAD7\n" << transcript();
+    }
+
+    // Types every slot's trigger, with the left Shift held through XTest or not, and checks what
+    // the program receives. With `expectTaps` false the bindings must not fire.
+    void typeEverySlot(bool shift, bool numLock, bool expectTaps) {
+        SCOPED_TRACE(std::string(numLock ? "Num Lock on" : "Num Lock off") +
+                     (shift ? ", left Shift held" : ", no modifier"));
+        driver.setNumLock(numLock);
+        ASSERT_EQ(driver.numLockOn(), numLock);
+        // Wine notices a change of Num Lock at the next key and reports it as a VK_NUMLOCK
+        // press and release of its own; let that happen before looking.
+        const int beforeSync = program.lines().size();
+        driver.tap(x(KEY_SPACE));
+        ASSERT_GE(waitForKey(false, ' ', beforeSync, 10s), 0) << transcript();
+        const int locksBefore = probe.lockedModifierChanges();
+        const int start = program.lines().size();
+        if (shift) {
+            driver.press(x(KEY_LEFTSHIFT));
+            ASSERT_GE(waitForKey(true, kVkShift, start, 10s), 0) << transcript();
+        }
+        for (const SlotKeys& slot : kSlots) {
+            SCOPED_TRACE(slot.triggerVirtual);
+            const int from = program.lines().size();
+            driver.tap(x(slot.trigger));
+            const int trigger = waitForKey(true, slot.triggerVirtual, from, 10s);
+            ASSERT_GE(trigger, 0) << transcript();
+            const int triggerUp = waitForKey(false, slot.triggerVirtual, trigger, 10s);
+            ASSERT_GE(triggerUp, 0) << transcript();
+            if (!expectTaps) {
+                continue;
+            }
+            const int down = waitForKey(true, slot.numpadVirtual, trigger, 10s);
+            ASSERT_GE(down, 0) << transcript();
+            const int up = waitForKey(false, slot.numpadVirtual, down, 10s);
+            ASSERT_GE(up, 0) << transcript();
+            for (const int line : {down, up}) {
+                const auto key = VirtualKey::parse(program.lines()[line]);
+                EXPECT_EQ(key->scanCode, slot.numpadScan) << program.lines()[line].toStdString();
+                EXPECT_FALSE(key->extended) << program.lines()[line].toStdString();
+                EXPECT_EQ(key->numLock, numLock) << program.lines()[line].toStdString();
+            }
+        }
+        if (shift) {
+            driver.release(x(KEY_LEFTSHIFT));
+            ASSERT_GE(waitForKey(false, kVkShift, start, 10s), 0) << transcript();
+        }
+        // Let any tap still on its way arrive before looking at everything.
+        const int marker = program.lines().size();
+        driver.tap(x(KEY_SPACE));
+        ASSERT_GE(waitForKey(false, ' ', marker, 10s), 0) << transcript();
+
+        int numpadDowns = 0;
+        for (int i = start; i < program.lines().size(); ++i) {
+            const auto key = VirtualKey::parse(program.lines()[i]);
+            ASSERT_TRUE(key.has_value()) << program.lines()[i].toStdString();
+            EXPECT_FALSE(isCursorKey(key->virtualKey)) << program.lines()[i].toStdString();
+            EXPECT_NE(key->virtualKey, kVkNumLock) << program.lines()[i].toStdString();
+            EXPECT_NE(key->virtualKey, 0xfcu) << "a tap Wine could not name";
+            numpadDowns += key->down && key->virtualKey >= 0x60 && key->virtualKey <= 0x69;
+        }
+        EXPECT_EQ(numpadDowns, expectTaps ? 6 : 0) << transcript();
+        EXPECT_EQ(driver.numLockOn(), numLock);
+        EXPECT_EQ(probe.lockedModifierChanges(), locksBefore) << "Num Lock was touched";
+    }
+
+    XvfbSession server{true};
+    XTestDriver driver{server.display()};
+    KeymapProbe probe{server.display()};
+    LineProcess harness;
+    LineProcess program;
+    unsigned long programWindow = 0;
+};
+
+TEST_F(WineRemapperTest, TapsReachAWindowsProgramAsNumpadKeysWithShiftHeldAndNumLockEitherWay) {
     ASSERT_TRUE(server.ok()) << server.error().toStdString();
-    XTestDriver driver(server.display());
     ASSERT_TRUE(driver.ok());
+    ASSERT_TRUE(probe.ok());
+    probe.watchLockedModifiers();
 
     // A fresh prefix, made without the Mono and Gecko installers (they would ask).
     QTemporaryDir prefix;
@@ -65,63 +235,39 @@ TEST(Wine, RemapperTapsReachAWindowsProgramAsNumpadKeys) {
         ASSERT_EQ(boot.exitCode(), 0);
     }
 
-    LineProcess harness;
-    QStringList arguments;
+    // First the bindings without a modifier: they fire with Shift held too.
+    QStringList plain;
     for (int slot = 1; slot <= 6; ++slot) {
-        const int macCodes[] = {12, 13, 14, 15, 17, 16};
-        arguments << "--bind" << QString("%1,0,%2").arg(slot).arg(macCodes[slot - 1]);
+        plain << QString("%1,0,%2").arg(slot).arg(kSlots[slot - 1].triggerMac);
     }
-    ASSERT_TRUE(harness.start(TARNIC_HARNESS_PATH, arguments, server.environment()));
-    ASSERT_GE(harness.waitForLine("trusted true", 0, 10s), 0) << harness.transcript().toStdString();
-    const int harnessReady = harness.waitForPrefix("ready ", 0, 10s);
-    ASSERT_GE(harnessReady, 0);
-    ASSERT_TRUE(driver.focus(harness.lines()[harnessReady].section(' ', 1).toULong(), 10s));
+    ASSERT_NO_FATAL_FAILURE(startStandIn(plain));
 
-    LineProcess program;
     ASSERT_TRUE(program.start(TARNIC_WINE_PATH, {TARNIC_VKEYLOG_PATH}, environment));
-    ASSERT_GE(program.waitForLine("ready", 0, 120s), 0) << program.transcript().toStdString();
-    const unsigned long window = driver.waitForWindowOfClass("vkeylog.exe", 30s);
-    ASSERT_NE(window, 0u) << "no window of class vkeylog.exe";
-    ASSERT_TRUE(driver.focus(window, 10s));
+    ASSERT_GE(program.waitForLine("ready", 0, 120s), 0) << transcript();
+    programWindow = driver.waitForWindowOfClass("vkeylog.exe", 30s);
+    ASSERT_NE(programWindow, 0u) << "no window of class vkeylog.exe";
+    ASSERT_TRUE(driver.focus(programWindow, 10s));
+    ASSERT_NO_FATAL_FAILURE(waitUntilWineKnowsTheKeycodes(false));
 
-    for (const bool numLockBefore : {false, true, false}) {
-        SCOPED_TRACE(numLockBefore ? "Num Lock on" : "Num Lock off");
-        driver.setNumLock(numLockBefore);
-        ASSERT_EQ(driver.numLockOn(), numLockBefore);
-        for (const SlotKeys& slot : kSlots) {
-            SCOPED_TRACE(slot.triggerVirtual);
-            const int from = program.lines().size();
-            driver.tap(x(slot.trigger));
-            const int trigger =
-                program.waitForLine(QString("down %1").arg(slot.triggerVirtual), from, 10s);
-            ASSERT_GE(trigger, 0) << program.transcript().toStdString();
-            const int down =
-                program.waitForLine(QString("down %1").arg(slot.numpadVirtual), trigger, 10s);
-            ASSERT_GE(down, 0) << program.transcript().toStdString();
-            const int up = program.waitForLine(QString("up %1").arg(slot.numpadVirtual), down, 10s);
-            ASSERT_GE(up, 0) << program.transcript().toStdString();
-            // Nothing but the trigger's own release, and Wine's Num Lock bookkeeping, in between.
-            for (int i = down + 1; i < up; ++i) {
-                const QString& line = program.lines()[i];
-                EXPECT_TRUE(line == QString("up %1").arg(slot.triggerVirtual) ||
-                            line.endsWith(" 144")) // VK_NUMLOCK
-                    << line.toStdString();
-            }
-            // Never the cursor key that keypad key means with Num Lock off.
-            for (int i = trigger; i <= up; ++i) {
-                const unsigned virtualKey = program.lines()[i].section(' ', 1).toUInt();
-                EXPECT_FALSE(virtualKey >= 0x21 && virtualKey <= 0x28)
-                    << "cursor key " << virtualKey;
-            }
-        }
-        // The tap leaves Num Lock as it found it; the restoring request follows the key-up.
-        const auto deadline = std::chrono::steady_clock::now() + 2s;
-        while (driver.numLockOn() != numLockBefore && std::chrono::steady_clock::now() < deadline) {
-            std::this_thread::sleep_for(10ms);
-        }
-        EXPECT_EQ(driver.numLockOn(), numLockBefore);
+    for (const bool numLock : {false, true, false}) {
+        ASSERT_NO_FATAL_FAILURE(typeEverySlot(false, numLock, true));
+        ASSERT_NO_FATAL_FAILURE(typeEverySlot(true, numLock, true));
     }
-    ASSERT_EQ(harness.waitForLine("posted up 84", 0, 5s) >= 0, true);
+
+    // Then the same keys bound with Shift, in a stand-in started afresh: its keycodes are
+    // claimed anew while Wine runs.
+    ASSERT_NO_FATAL_FAILURE(stopStandIn());
+    QStringList shifted;
+    for (int slot = 1; slot <= 6; ++slot) {
+        shifted << QString("%1,56,%2").arg(slot).arg(kSlots[slot - 1].triggerMac);
+    }
+    ASSERT_NO_FATAL_FAILURE(startStandIn(shifted));
+    ASSERT_NO_FATAL_FAILURE(waitUntilWineKnowsTheKeycodes(true));
+
+    for (const bool numLock : {true, false}) {
+        ASSERT_NO_FATAL_FAILURE(typeEverySlot(true, numLock, true));
+        ASSERT_NO_FATAL_FAILURE(typeEverySlot(false, numLock, false));
+    }
 }
 
 } // namespace

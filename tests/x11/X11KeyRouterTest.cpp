@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <linux/input-event-codes.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -67,6 +68,28 @@ TEST_F(X11KeyRouterTest, NothingIsReportedWhileOwnWindowIsActive) {
     ownActive = false;
     router.keyPressed(x(KEY_Q));
     EXPECT_EQ(seen, (std::vector<std::string>{"down 12"}));
+}
+
+TEST(X11KeyRouter, KeycodesOfOurOwnTapsAreNeitherKeyDownsNorModifierChanges) {
+    std::vector<std::string> seen;
+    // 248: a keycode no key uses; F13 and the left Shift: keycodes the table knows, which the
+    // router must drop all the same while they are ours.
+    const std::vector<unsigned> own = {248, x(KEY_F13), x(KEY_LEFTSHIFT)};
+    X11KeyRouter router{
+        [] { return false; },
+        [&](unsigned keycode) { return std::find(own.begin(), own.end(), keycode) != own.end(); }};
+    router.addKeyDownHandler([&](int code) { seen.push_back("down " + std::to_string(code)); });
+    router.addFlagsChangedHandler(
+        [&](int code) { seen.push_back("flags " + std::to_string(code)); });
+    for (const unsigned keycode : own) {
+        router.keyPressed(keycode);
+        router.keyReleased(keycode);
+    }
+    EXPECT_TRUE(seen.empty());
+    router.keyPressed(x(KEY_Q));
+    router.keyPressed(x(KEY_RIGHTSHIFT));
+    router.keyReleased(x(KEY_RIGHTSHIFT));
+    EXPECT_EQ(seen, (std::vector<std::string>{"down 12", "flags 60", "flags 60"}));
 }
 
 TEST(X11KeyRouter, EveryHandlerRunsInOrderAndMayAddAnother) {

@@ -22,11 +22,12 @@ std::optional<unsigned> xKeycodeOfMacKeyCode(int macKeyCode);
 
 // Whether the key at this X keycode is a modifier key as the program sees them: both Shifts,
 // both Controls, both Alts (Option), both Supers (Command) and Caps Lock. Num Lock is not one:
-// it is a lock the poster manages, not a key a binding can name.
+// it is a lock, not a key a binding can name.
 bool isModifierXKeycode(unsigned xKeycode);
 
-// Whether a keypad key means a digit (or the decimal point) only while Num Lock is on; with it
-// off, programs run by Wine read it as a cursor key (keypad 7 as Home).
+// Whether the keyboard's own key for this keypad key means a digit (or the decimal point) only
+// while Num Lock is on; with it off, programs run by Wine read it as a cursor key (keypad 7 as
+// Home). The poster's keycodes of its own have no such dependence (X11KeypadKeycodes).
 bool needsNumLock(int macKeyCode);
 
 } // namespace tarnic::x11

@@ -26,8 +26,9 @@ struct RecordCallback {
 };
 
 X11KeyObserver::X11KeyObserver(std::shared_ptr<X11Connection> control, const char* displayName,
-                               std::function<bool()> ownWindowActive)
-    : control_(std::move(control)), router_(std::move(ownWindowActive)) {
+                               std::function<bool()> ownWindowActive,
+                               std::function<bool(unsigned xKeycode)> ownTap)
+    : control_(std::move(control)), router_(std::move(ownWindowActive), std::move(ownTap)) {
     Display* controlDisplay = control_->display();
     int major = 0;
     int minor = 0;

@@ -17,8 +17,9 @@ class X11Connection;
 // from the window it goes to. The recording runs on a connection of its own that carries no
 // other request once recording has begun (the server would not answer them); its replies are
 // read on the main thread whenever its socket has data, so the handlers run on the main thread,
-// in the order the keys were pressed. Keys this program posts itself are recorded too: they are
-// keypad keys, which no binding can name.
+// in the order the keys were pressed. Keys this program posts itself are recorded too; those on
+// its own keypad keycodes (`ownTap`) are left out, so a tap never counts as a key-down or a
+// modifier change.
 class X11KeyObserver : public KeyObserver {
 public:
     // Sets up the recording on `control` (the main connection) and starts it on a new connection
@@ -26,7 +27,8 @@ public:
     // QCoreApplication. The observer exists even when recording could not start; it then
     // reports nothing and isRecording() is false.
     X11KeyObserver(std::shared_ptr<X11Connection> control, const char* displayName,
-                   std::function<bool()> ownWindowActive);
+                   std::function<bool()> ownWindowActive,
+                   std::function<bool(unsigned xKeycode)> ownTap = {});
     ~X11KeyObserver() override;
     X11KeyObserver(const X11KeyObserver&) = delete;
     X11KeyObserver& operator=(const X11KeyObserver&) = delete;

@@ -2,18 +2,18 @@
 
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/X11KeyCodes.h"
+#include "platform/x11/X11KeypadKeycodes.h"
 
 #include <X11/XKBlib.h>
 #include <X11/Xlib.h>
 #include <X11/extensions/XTest.h>
 #include <X11/keysym.h>
 
-#include <optional>
-
 namespace tarnic::x11 {
 
-X11KeyPoster::X11KeyPoster(std::shared_ptr<X11Connection> connection)
-    : connection_(std::move(connection)) {
+X11KeyPoster::X11KeyPoster(std::shared_ptr<X11Connection> connection,
+                           std::shared_ptr<X11KeypadKeycodes> keypad)
+    : connection_(std::move(connection)), keypad_(std::move(keypad)) {
     Display* display = connection_->display();
     int eventBase = 0;
     int errorBase = 0;
@@ -32,11 +32,21 @@ void X11KeyPoster::lockNumLock(bool on) {
 }
 
 void X11KeyPoster::postKeyDown(std::uint16_t keyCode) {
-    const std::optional<unsigned> xKeycode = xKeycodeOfMacKeyCode(keyCode);
-    if (!xtestAvailable_ || !xKeycode) {
+    if (!xtestAvailable_) {
         return;
     }
     Display* display = connection_->display();
+    if (const std::optional<unsigned> own = keypad_ ? keypad_->keycodeFor(keyCode) : std::nullopt) {
+        ownDownKeyCode_ = keyCode;
+        ownDownKeycode_ = *own;
+        XTestFakeKeyEvent(display, *own, True, CurrentTime);
+        XFlush(display);
+        return;
+    }
+    const std::optional<unsigned> xKeycode = xKeycodeOfMacKeyCode(keyCode);
+    if (!xKeycode) {
+        return;
+    }
     if (numLockMask_ != 0 && !numLockToRestore_ && needsNumLock(keyCode)) {
         XkbStateRec state{};
         if (XkbGetState(display, XkbUseCoreKbd, &state) == Success &&
@@ -50,11 +60,27 @@ void X11KeyPoster::postKeyDown(std::uint16_t keyCode) {
 }
 
 void X11KeyPoster::postKeyUp(std::uint16_t keyCode) {
-    const std::optional<unsigned> xKeycode = xKeycodeOfMacKeyCode(keyCode);
-    if (!xtestAvailable_ || !xKeycode) {
+    if (!xtestAvailable_) {
         return;
     }
     Display* display = connection_->display();
+    std::optional<unsigned> own;
+    if (ownDownKeyCode_ == keyCode) {
+        own = ownDownKeycode_;
+        ownDownKeyCode_.reset();
+    } else if (keypad_) {
+        // A key-up without its key-down: wherever that key goes out now.
+        own = keypad_->keycodeFor(keyCode);
+    }
+    if (own) {
+        XTestFakeKeyEvent(display, *own, False, CurrentTime);
+        XFlush(display);
+        return;
+    }
+    const std::optional<unsigned> xKeycode = xKeycodeOfMacKeyCode(keyCode);
+    if (!xKeycode) {
+        return;
+    }
     XTestFakeKeyEvent(display, *xKeycode, False, CurrentTime);
     if (numLockToRestore_ && needsNumLock(keyCode)) {
         lockNumLock(false);

@@ -5,6 +5,7 @@
 #include "platform/x11/X11FrontmostApplication.h"
 #include "platform/x11/X11KeyObserver.h"
 #include "platform/x11/X11KeyPoster.h"
+#include "platform/x11/X11KeypadKeycodes.h"
 
 #include <QGuiApplication>
 #include <QWindow>
@@ -45,13 +46,17 @@ std::optional<Platform> makeX11Platform(const char* displayName) {
     if (!connection) {
         return std::nullopt;
     }
+    // Claimed now, long before the first tap: a program run by Wine learns of a new mapping only
+    // some time after the server announced it.
+    auto keypad = std::make_shared<x11::X11KeypadKeycodes>(connection);
     auto observer = std::make_unique<x11::X11KeyObserver>(
-        connection, displayName, [raw = connection.get()] { return ownWindowHasFocus(*raw); });
+        connection, displayName, [raw = connection.get()] { return ownWindowHasFocus(*raw); },
+        [keypad](unsigned xKeycode) { return keypad->isOwn(xKeycode); });
     const bool recording = observer->isRecording();
 
     Platform platform;
     platform.keyObserver = std::move(observer);
-    platform.keyPoster = std::make_unique<x11::X11KeyPoster>(connection);
+    platform.keyPoster = std::make_unique<x11::X11KeyPoster>(connection, keypad);
     platform.frontmostApplication = std::make_unique<x11::X11FrontmostApplication>(connection);
     platform.accessibilityTrust = std::make_unique<x11::X11AccessibilityTrust>(recording);
     return platform;

@@ -15,6 +15,12 @@ namespace tarnic {
 // for the frontmost window and for controlling the recording, and one that only carries the
 // recording. Qt's own connection is left alone.
 //
+// The inventory slots' keypad taps go out on six keycodes the backend claims here, at once, and
+// gives back when the last of the platform's parts is destroyed (see X11KeypadKeycodes): keep the
+// Platform until the event loop has ended, and end the program by leaving the event loop so that
+// the destructors run. When no unused keycode is left, the taps go to the keyboard's own keypad
+// keys with Num Lock on for the tap, and a line on standard error says so.
+//
 // Keys typed while a window of this application has the X input focus are not observed.
 //
 // None when the display cannot be opened (no X server, or a Wayland session without XWayland).

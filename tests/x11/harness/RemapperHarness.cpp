@@ -11,6 +11,7 @@
 //          --timer-ms <interval of the game-detection timer, default 2000>, --quiet.
 #include "core/remapper/InventoryRemapper.h"
 #include "platform/x11/X11Platform.h"
+#include "process/QuitOnSignals.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -66,6 +67,8 @@ protected:
 
 int main(int argc, char** argv) {
     QGuiApplication application(argc, argv);
+    // Ends in order on SIGTERM, SIGINT and SIGHUP, as the application does.
+    tarnic::QuitOnSignals quitOnSignals;
 
     tarnic::InventoryRemapper::Models models;
     std::size_t bound = 0;

@@ -2,6 +2,8 @@
 
 #include "x11/support/ChildProcess.h"
 
+#include <algorithm>
+
 namespace tarnic::testing {
 
 LineProcess::~LineProcess() {
@@ -9,12 +11,38 @@ LineProcess::~LineProcess() {
 }
 
 bool LineProcess::start(const QString& program, const QStringList& arguments,
-                        const QProcessEnvironment& environment) {
+                        const QProcessEnvironment& environment, Errors errors) {
+    // A fresh start: lines of an earlier run are gone.
+    lines_.clear();
+    partial_.clear();
+    errors_.clear();
     endWithTest(process_);
     process_.setProcessEnvironment(environment);
-    process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process_.setProcessChannelMode(errors == Errors::Forward ? QProcess::ForwardedErrorChannel
+                                                             : QProcess::SeparateChannels);
     process_.start(program, arguments);
     return process_.waitForStarted(10000);
+}
+
+bool LineProcess::waitForExit(std::chrono::milliseconds timeout) {
+    // Reads both pipes meanwhile, so that a child with much to say is never stalled on them.
+    const auto deadline = std::chrono::steady_clock::now() + timeout;
+    while (process_.state() != QProcess::NotRunning) {
+        const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
+            deadline - std::chrono::steady_clock::now());
+        if (left.count() <= 0) {
+            return false;
+        }
+        process_.waitForFinished(static_cast<int>(std::min<long long>(left.count(), 50)));
+        readAvailable();
+    }
+    readAvailable();
+    return true;
+}
+
+QString LineProcess::errorOutput() {
+    readAvailable();
+    return QString::fromUtf8(errors_);
 }
 
 void LineProcess::stop() {
@@ -30,6 +58,7 @@ void LineProcess::readAvailable() {
         process_.waitForReadyRead(0);
     }
     partial_ += process_.readAllStandardOutput();
+    errors_ += process_.readAllStandardError();
     qsizetype newline = 0;
     while ((newline = partial_.indexOf('\n')) >= 0) {
         // Windows programs run by Wine end their lines with CR LF.

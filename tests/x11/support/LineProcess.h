@@ -10,17 +10,31 @@
 namespace tarnic::testing {
 
 // A child process whose standard output is read line by line, with bounded waits for the line
-// the test expects. Its standard error goes to the test's. Killed when destroyed.
+// the test expects. Its standard error goes to the test's, or is kept for the test to read.
+// Killed when destroyed.
 class LineProcess {
 public:
+    enum class Errors { Forward, Keep };
+
     LineProcess() = default;
     ~LineProcess();
     LineProcess(const LineProcess&) = delete;
     LineProcess& operator=(const LineProcess&) = delete;
 
     bool start(const QString& program, const QStringList& arguments,
-               const QProcessEnvironment& environment);
+               const QProcessEnvironment& environment, Errors errors = Errors::Forward);
+    // Kills the child (SIGKILL) and waits for it.
     void stop();
+
+    qint64 processId() const { return process_.processId(); }
+    // Waits up to `timeout` for the child to end by itself; true if it did. Its exit status is
+    // then in exitedNormally() and exitCode().
+    bool waitForExit(std::chrono::milliseconds timeout);
+    bool exitedNormally() const { return process_.exitStatus() == QProcess::NormalExit; }
+    int exitCode() const { return process_.exitCode(); }
+
+    // With Errors::Keep: the child's standard error so far (reads what is waiting).
+    QString errorOutput();
 
     // The index of the first line at or after `from` that `match` accepts, waiting up to
     // `timeout` for it to come; -1 if it does not.
@@ -39,6 +53,7 @@ private:
     QProcess process_;
     QStringList lines_;
     QByteArray partial_;
+    QByteArray errors_;
 };
 
 } // namespace tarnic::testing
