@@ -1,6 +1,7 @@
 #include "gui/MainWindow.h"
 
 #include "contact/ContactPanel.h"
+#include "gui/PopUpButton.h"
 #include "gui/ViewController.h"
 #include "ui_MainWindow.h"
 
@@ -38,7 +39,12 @@ void MainWindow::connectController(ViewController& c) {
     c.isShiftBox = w.isShiftBox;
     c.delBTN = w.delBTN;
 
-    connect(w.keysPopup, &QComboBox::activated, &c, &ViewController::setKey);
+    // A pop-up changes a key only when the player picks from its list; the pick sends the
+    // action, then the focus goes back to the table so that the arrow keys move through the
+    // abilities again.
+    const auto backToTable = [table = w.tableView] { table->setFocus(Qt::OtherFocusReason); };
+    connect(w.keysPopup, &PopUpButton::chosen, &c, &ViewController::setKey);
+    connect(w.keysPopup, &PopUpButton::chosen, this, backToTable);
     connect(w.resetButton, &QPushButton::clicked, &c, &ViewController::resetToDef);
     connect(w.gridButton, &QPushButton::clicked, &c, &ViewController::allQWER);
     connect(w.exportButton, &QPushButton::clicked, &c, &ViewController::saveCKeys);
@@ -52,7 +58,8 @@ void MainWindow::connectController(ViewController& c) {
     connect(w.invent4, &QPushButton::clicked, &c, &ViewController::invent4);
     connect(w.invent5, &QPushButton::clicked, &c, &ViewController::invent5);
     connect(w.invent6, &QPushButton::clicked, &c, &ViewController::invent6);
-    connect(w.inventPopup, &QComboBox::activated, &c, &ViewController::setInventoryKey);
+    connect(w.inventPopup, &PopUpButton::chosen, &c, &ViewController::setInventoryKey);
+    connect(w.inventPopup, &PopUpButton::chosen, this, backToTable);
     connect(w.isShiftBox, &QCheckBox::clicked, &c, &ViewController::setInventoryKeyBox);
     connect(w.delBTN, &QPushButton::clicked, &c, &ViewController::eraseKey);
 }

@@ -8,6 +8,7 @@
 #include "shell/VersionGate.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QMetaObject>
 
 #include <cstdio>
@@ -32,21 +33,37 @@ Alert unsupportedVersionAlert() {
     return alert;
 }
 
+// The application's busy cursor for as long as it lives.
+class BusyCursor {
+public:
+    BusyCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~BusyCursor() { QGuiApplication::restoreOverrideCursor(); }
+    BusyCursor(const BusyCursor&) = delete;
+    BusyCursor& operator=(const BusyCursor&) = delete;
+};
+
 } // namespace
 
 AppDelegate::AppDelegate(const AccessibilityTrust& trust, QObject* parent)
-    : AppDelegate(trust, siteBaseUrl(), messageBoxes(), parent) {}
+    : AppDelegate(trust, siteBaseUrl(), messageBoxes(), kVersionLoadTimeout, parent) {}
 
 AppDelegate::AppDelegate(const AccessibilityTrust& trust, QString siteUrl, AlertPresenter& alerts,
-                         QObject* parent)
-    : QObject(parent), trust_(trust), siteUrl_(std::move(siteUrl)), alerts_(alerts) {}
+                         std::chrono::milliseconds versionLoadTimeout, QObject* parent)
+    : QObject(parent), trust_(trust), siteUrl_(std::move(siteUrl)), alerts_(alerts),
+      versionLoadTimeout_(versionLoadTimeout) {}
 
 void AppDelegate::applicationDidFinishLaunching() {
     // Only a diagnostic: start-up goes on the same way without trust.
     std::printf("AXIsProcessTrusted %s\n", trust_.isProcessTrusted() ? "true" : "false");
     std::fflush(stdout);
 
-    if (checkVersionSupport(siteUrl_) != VersionGateResult::Failed) {
+    VersionGateResult gate = VersionGateResult::NoUrl;
+    {
+        // The window takes no input while the check waits; the cursor says so.
+        const BusyCursor busy;
+        gate = checkVersionSupport(siteUrl_, versionLoadTimeout_);
+    }
+    if (gate != VersionGateResult::Failed) {
         return;
     }
     alerts_.run(unsupportedVersionAlert());

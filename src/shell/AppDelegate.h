@@ -1,7 +1,11 @@
 #pragma once
 
+#include "shell/VersionGate.h"
+
 #include <QObject>
 #include <QString>
+
+#include <chrono>
 
 namespace tarnic {
 
@@ -17,13 +21,17 @@ class AppDelegate : public QObject {
 public:
     // Checks the maker's site and shows a real message box.
     explicit AppDelegate(const AccessibilityTrust& trust, QObject* parent = nullptr);
+    // `versionLoadTimeout` bounds the wait for the version-support file; the program always
+    // uses the default, tests shorten it.
     AppDelegate(const AccessibilityTrust& trust, QString siteUrl, AlertPresenter& alerts,
+                std::chrono::milliseconds versionLoadTimeout = kVersionLoadTimeout,
                 QObject* parent = nullptr);
 
 public slots:
     // Once the main window is up and the event loop runs: prints the trust line on standard
-    // output, then runs the version gate. A failed gate shows the alert and quits the
-    // application (also when called before the event loop has started).
+    // output, then runs the version gate, with a busy cursor while it waits. A failed gate
+    // shows the alert and quits the application (also when called before the event loop has
+    // started).
     void applicationDidFinishLaunching();
     // Hung on QCoreApplication::aboutToQuit. The store already holds everything the operations
     // stored while they ran, so there is nothing to do.
@@ -33,6 +41,7 @@ private:
     const AccessibilityTrust& trust_;
     const QString siteUrl_;
     AlertPresenter& alerts_;
+    const std::chrono::milliseconds versionLoadTimeout_;
 };
 
 } // namespace tarnic

@@ -17,12 +17,12 @@ QUrl versionSupportUrl(const QString& siteUrl) {
     return url;
 }
 
-VersionGateResult checkVersionSupport(const QString& siteUrl) {
+VersionGateResult checkVersionSupport(const QString& siteUrl, std::chrono::milliseconds timeout) {
     const QUrl url = versionSupportUrl(siteUrl);
     if (!url.isValid()) {
         return VersionGateResult::NoUrl;
     }
-    const auto body = BlockingHttpGet().get(url);
+    const auto body = BlockingHttpGet().get(url, timeout);
     return body && isVersionSupportDictionary(*body) ? VersionGateResult::Passed
                                                      : VersionGateResult::Failed;
 }

@@ -7,6 +7,9 @@
 #                                          application
 #   app_window.sh APP SITE_DIR PORT down   nothing listens: the alert shows over the window and
 #                                          the application ends once "Ok" is pressed
+#   app_window.sh APP SITE_DIR PORT silent the site takes the connection and never answers: after
+#                                          the start-up check's minute the alert shows and the
+#                                          application ends once "Ok" is pressed
 # With KEYPAD_PROBE (tarnic_x11_keypad_probe) as a fifth argument, also: the application holds
 # six keycodes for its keypad taps while it runs and gives them all back when it ends.
 set -u
@@ -28,12 +31,34 @@ fail() { echo "FAIL: $*" >&2; echo "--- application output:" >&2; cat "$work/out
 xvfb_start || fail "Xvfb did not start"
 wm_start || fail "openbox did not start"
 
-if [ "$mode" != down ]; then
+if [ "$mode" = up ] || [ "$mode" = quit ]; then
     python3 -m http.server --bind 127.0.0.1 --directory "$site" "$port" >/dev/null 2>"$work/site.log" &
     SITE_PID=$!
     deadline=$((SECONDS + 20))
     until python3 -c "import urllib.request,sys; urllib.request.urlopen('http://127.0.0.1:$port/tn11.plist', timeout=1)" 2>/dev/null; do
         [ $SECONDS -lt $deadline ] || fail "the loopback site did not come up on port $port"
+        kill -0 "$SITE_PID" 2>/dev/null || fail "port $port is taken"
+        sleep 0.1
+    done
+elif [ "$mode" = silent ]; then
+    # Takes every connection and holds it open without a word.
+    python3 -u -c '
+import socket, sys
+server = socket.socket()
+server.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1)
+server.bind(("127.0.0.1", int(sys.argv[1])))
+server.listen(8)
+print("listening")
+held = []
+while True:
+    connection, _ = server.accept()
+    held.append(connection)
+    print("accepted")
+' "$port" >"$work/site.log" 2>&1 &
+    SITE_PID=$!
+    deadline=$((SECONDS + 20))
+    until grep -q '^listening$' "$work/site.log"; do
+        [ $SECONDS -lt $deadline ] || fail "the silent site did not come up on port $port"
         kill -0 "$SITE_PID" 2>/dev/null || fail "port $port is taken"
         sleep 0.1
     done
@@ -72,7 +97,7 @@ keypad_given_back() {
 }
 keypad_claimed
 
-if [ "$mode" != down ]; then
+if [ "$mode" = up ] || [ "$mode" = quit ]; then
     # The gate has passed once the site has served the version file and the application is
     # still there.
     deadline=$((SECONDS + 30))
@@ -99,8 +124,18 @@ if [ "$mode" != down ]; then
     fi
     keypad_given_back
 else
+    alert_wait=60
+    if [ "$mode" = silent ]; then
+        deadline=$((SECONDS + 20))
+        until grep -q '^accepted$' "$work/site.log"; do
+            [ $SECONDS -lt $deadline ] || fail "the application did not connect to the site"
+            sleep 0.1
+        done
+        # The check gives the site a minute; the alert follows.
+        alert_wait=100
+    fi
     # The alert is a second window of the application, modal over the main one, and active.
-    deadline=$((SECONDS + 60))
+    deadline=$((SECONDS + alert_wait))
     until active=$(xdotool getactivewindow 2>/dev/null) && [ "$active" != "$main_window" ] &&
         [ "$(xdotool getwindowpid "$active" 2>/dev/null)" = "$APP_PID" ]; do
         [ $SECONDS -lt $deadline ] || { xwininfo -root -tree >&2; fail "no alert appeared with the site down"; }
@@ -115,6 +150,6 @@ else
     xdotool key Return || fail "could not press Ok"
     wait_for_exit 20 || fail "the application did not end after Ok"
     [ "$APP_RC" -eq 0 ] || fail "the application ended with status $APP_RC"
-    echo "PASS: alert shown with the site down, the application ended after Ok"
+    echo "PASS: alert shown with the site $mode, the application ended after Ok"
     keypad_given_back
 fi

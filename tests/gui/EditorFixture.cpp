@@ -5,9 +5,15 @@
 #include <QAbstractItemView>
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QTest>
 
 namespace tarnic::testing {
+
+QByteArray golden(const char* name) {
+    QFile file(QStringLiteral(TARNIC_SOURCE_DIR "/tests/data/") + QLatin1String(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing golden file>");
+}
 
 void EditorFixture::SetUp() {
     ASSERT_TRUE(dir_.isValid());

@@ -20,6 +20,9 @@
 
 namespace tarnic::testing {
 
+// An expected export from tests/data (its README says how each was made).
+QByteArray golden(const char* name);
+
 // One start of the application, put together exactly as the program is, on the recording fakes
 // and a private store: every test gets its own XDG config folder (XDG_CONFIG_HOME in a temporary
 // folder), and may start the application more than once on it. The version gate is left out (no

@@ -18,12 +18,6 @@ static void registerTemplate() {
 namespace tarnic::testing {
 namespace {
 
-// An expected export from tests/data (see its README for how each was made).
-QByteArray golden(const char* name) {
-    QFile file(QStringLiteral(TARNIC_SOURCE_DIR "/tests/data/") + QLatin1String(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing golden file>");
-}
-
 QByteArray bytesOf(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");

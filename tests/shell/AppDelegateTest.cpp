@@ -6,12 +6,16 @@
 #include "shell/PlistSamples.h"
 
 #include <QCoreApplication>
+#include <QCursor>
+#include <QGuiApplication>
 #include <QTimer>
 
 #include "shell/QtPrinting.h"
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,9 +44,17 @@ public:
     void run(const Alert& alert) override {
         log_.push_back("alert");
         shown.push_back(alert);
+        cursorsAtAlert.push_back(overrideCursorShape());
+    }
+
+    // The application's override cursor, if one is set.
+    static std::optional<Qt::CursorShape> overrideCursorShape() {
+        const QCursor* cursor = QGuiApplication::overrideCursor();
+        return cursor != nullptr ? std::optional(cursor->shape()) : std::nullopt;
     }
 
     std::vector<Alert> shown;
+    std::vector<std::optional<Qt::CursorShape>> cursorsAtAlert;
 
 private:
     std::vector<std::string>& log_;
@@ -179,6 +191,72 @@ TEST_F(AppDelegateTest, OfflineShowsTheAlertAndQuits) {
 
     EXPECT_EQ(alerts.shown.size(), 1u);
     EXPECT_EQ(runEventLoopOnce(), 0);
+}
+
+using namespace std::chrono_literals;
+
+TEST_F(AppDelegateTest, SiteThatNeverAnswersShowsTheAlertAndQuitsOnceTheBoundHasPassed) {
+    // A late dictionary: a gate that waited past its bound would pass and show nothing.
+    server.serveLate("/tn11.plist", 30s, test::xmlDictionary());
+    FakeTrust trust(true, log);
+    AppDelegate delegate(trust, server.baseUrl(), alerts, 300ms);
+
+    ::testing::internal::CaptureStdout();
+    delegate.applicationDidFinishLaunching();
+    EXPECT_EQ(::testing::internal::GetCapturedStdout(), "AXIsProcessTrusted true\n");
+
+    EXPECT_EQ(server.requestedPaths(), QStringList{"/tn11.plist"});
+    EXPECT_EQ(log, (std::vector<std::string>{"trust", "alert"}));
+    ASSERT_EQ(alerts.shown.size(), 1u);
+    EXPECT_EQ(alerts.shown.front().text, "Version you're using is no longer supported!");
+    EXPECT_EQ(runEventLoopOnce(), 0);
+}
+
+TEST_F(AppDelegateTest, BusyCursorWhileTheCheckWaitsAndNotAfterwards) {
+    server.serve("/tn11.plist", test::xmlDictionary());
+    std::optional<Qt::CursorShape> duringLoad;
+    server.onRequest([&](const QString&) { duringLoad = AnsweringAlerts::overrideCursorShape(); });
+    FakeTrust trust(true, log);
+    AppDelegate delegate(trust, server.baseUrl(), alerts);
+
+    ::testing::internal::CaptureStdout();
+    delegate.applicationDidFinishLaunching();
+    ::testing::internal::GetCapturedStdout();
+
+    EXPECT_EQ(duringLoad, Qt::WaitCursor);
+    EXPECT_EQ(AnsweringAlerts::overrideCursorShape(), std::nullopt);
+    EXPECT_TRUE(alerts.shown.empty());
+}
+
+TEST_F(AppDelegateTest, TheAlertComesWithTheNormalCursor) {
+    server.serveLate("/tn11.plist", 30s, test::xmlDictionary());
+    std::optional<Qt::CursorShape> duringLoad;
+    server.onRequest([&](const QString&) { duringLoad = AnsweringAlerts::overrideCursorShape(); });
+    FakeTrust trust(true, log);
+    AppDelegate delegate(trust, server.baseUrl(), alerts, 300ms);
+
+    ::testing::internal::CaptureStdout();
+    delegate.applicationDidFinishLaunching();
+    ::testing::internal::GetCapturedStdout();
+
+    EXPECT_EQ(duringLoad, Qt::WaitCursor);
+    ASSERT_EQ(alerts.cursorsAtAlert.size(), 1u);
+    EXPECT_EQ(alerts.cursorsAtAlert.front(), std::nullopt);
+    EXPECT_EQ(AnsweringAlerts::overrideCursorShape(), std::nullopt);
+    EXPECT_EQ(runEventLoopOnce(), 0);
+}
+
+TEST_F(AppDelegateTest, DictionaryServedWithAnErrorStatusPasses) {
+    server.serve("/tn11.plist", test::xmlDictionary(), 404);
+    FakeTrust trust(true, log);
+    AppDelegate delegate(trust, server.baseUrl(), alerts);
+
+    ::testing::internal::CaptureStdout();
+    delegate.applicationDidFinishLaunching();
+    ::testing::internal::GetCapturedStdout();
+
+    EXPECT_TRUE(alerts.shown.empty());
+    EXPECT_EQ(runEventLoopOnce(), kNobodyQuit);
 }
 
 TEST_F(AppDelegateTest, SiteTextThatIsNoUrlStopsTheCheckSilently) {

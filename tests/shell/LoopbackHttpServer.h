@@ -7,6 +7,9 @@
 #include <QStringList>
 #include <QTcpServer>
 
+#include <chrono>
+#include <functional>
+
 class QTcpSocket;
 
 namespace tarnic::test {
@@ -19,6 +22,7 @@ class LoopbackHttpServer : public QObject {
 
 public:
     LoopbackHttpServer();
+    ~LoopbackHttpServer() override;
 
     // Listens on a free port; false when no port could be had.
     bool listen();
@@ -27,23 +31,39 @@ public:
     QString baseUrl() const;
 
     void serve(const QString& path, const QByteArray& body, int status = 200);
+    // Takes the request for `path` and keeps the connection open without a word until
+    // `answerAfter` has passed, then answers with `body` (so that a client that waits too long
+    // gets a late answer instead of hanging its test).
+    void serveLate(const QString& path, std::chrono::milliseconds answerAfter,
+                   const QByteArray& body, int status = 200);
+
+    // Runs on every request, once its path is known and before anything is answered.
+    void onRequest(std::function<void(const QString& path)> hook) { onRequest_ = std::move(hook); }
 
     // Request paths in the order they arrived.
     const QStringList& requestedPaths() const { return requestedPaths_; }
+    // Connections that the client closed before the server had answered on them.
+    int abandonedByClient() const { return abandonedByClient_; }
 
 private:
     struct Answer {
         int status = 200;
         QByteArray body;
+        std::chrono::milliseconds delay{0};
     };
 
     void accept();
     void readRequest(QTcpSocket* socket);
+    void answer(QTcpSocket* socket, const Answer& answer);
 
     QTcpServer server_;
     QHash<QString, Answer> answers_;
     QHash<QTcpSocket*, QByteArray> pending_;
     QStringList requestedPaths_;
+    std::function<void(const QString&)> onRequest_;
+    // Sockets whose answer has been written.
+    QHash<QTcpSocket*, bool> answered_;
+    int abandonedByClient_ = 0;
 };
 
 // A port on 127.0.0.1 where nothing listens.

@@ -7,8 +7,11 @@
 
 #include "shell/QtPrinting.h"
 
+#include <QTest>
+
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <functional>
 #include <ostream>
 
@@ -101,8 +104,18 @@ INSTANTIATE_TEST_SUITE_P(
         ServedCase{"Garbage", test::garbage, 200, VersionGateResult::Failed},
         ServedCase{"EmptyBody", [] { return QByteArray(); }, 200, VersionGateResult::Failed},
         ServedCase{"NotFound", test::garbage, 404, VersionGateResult::Failed},
-        ServedCase{"DictionaryWithNotFound", test::xmlDictionary, 404, VersionGateResult::Failed},
-        ServedCase{"ServerError", test::xmlDictionary, 500, VersionGateResult::Failed},
+        ServedCase{"ArrayWithNotFound", test::xmlArray, 404, VersionGateResult::Failed},
+        // Only whether a dictionary loads matters, not the status it came with.
+        ServedCase{"DictionaryWithNotFound", test::xmlDictionary, 404, VersionGateResult::Passed},
+        ServedCase{"DictionaryWithServerError", test::xmlDictionary, 500,
+                   VersionGateResult::Passed},
+        ServedCase{"BinaryDictionaryWithForbidden", test::binaryDictionary, 403,
+                   VersionGateResult::Passed},
+        ServedCase{"EmptyDictionaryWithBadRequest", test::xmlEmptyDictionary, 400,
+                   VersionGateResult::Passed},
+        ServedCase{"DictionaryOverTheLimitWithServerError",
+                   [] { return test::xmlDictionaryOfSize(kMiB + 1); }, 500,
+                   VersionGateResult::Failed},
         ServedCase{"DictionaryOverTheLimit", [] { return test::xmlDictionaryOfSize(kMiB + 1); },
                    200, VersionGateResult::Failed},
         ServedCase{"HugeDictionary", [] { return test::xmlDictionaryOfSize(8 * kMiB); }, 200,
@@ -118,15 +131,60 @@ TEST(VersionGate, MissingFileOnTheServerFails) {
     EXPECT_EQ(server.requestedPaths(), QStringList{"/tn11.plist"});
 }
 
+using namespace std::chrono_literals;
+
+// Long enough that a gate which ignores its bound gets this dictionary and passes, so that the
+// failure shows in the result instead of in a test that hangs.
+constexpr std::chrono::milliseconds kLateAnswer = 30s;
+
+TEST(VersionGate, ServerThatAcceptsAndNeverAnswersFailsOnceTheBoundHasPassed) {
+    test::LoopbackHttpServer server;
+    ASSERT_TRUE(server.listen());
+    server.serveLate("/tn11.plist", kLateAnswer, test::xmlDictionary());
+
+    EXPECT_EQ(checkVersionSupport(server.baseUrl(), 300ms), VersionGateResult::Failed);
+    EXPECT_EQ(server.requestedPaths(), QStringList{"/tn11.plist"});
+    // The check gave the connection up instead of leaving it to the late answer.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return server.abandonedByClient() == 1; }, 10000));
+}
+
+TEST(VersionGate, SlowAnswerWithinTheBoundPasses) {
+    test::LoopbackHttpServer server;
+    ASSERT_TRUE(server.listen());
+    server.serveLate("/tn11.plist", 200ms, test::xmlDictionary());
+
+    EXPECT_EQ(checkVersionSupport(server.baseUrl(), 20s), VersionGateResult::Passed);
+    EXPECT_EQ(server.abandonedByClient(), 0);
+}
+
 TEST(BlockingHttpGet, ReturnsTheBodyUnchanged) {
     test::LoopbackHttpServer server;
     ASSERT_TRUE(server.listen());
     const QByteArray body = test::binaryDictionary();
     server.serve("/file", body);
 
-    const auto fetched = BlockingHttpGet().get(QUrl(server.baseUrl() + "/file"));
+    const auto fetched = BlockingHttpGet().get(QUrl(server.baseUrl() + "/file"), 20s);
     ASSERT_TRUE(fetched.has_value());
     EXPECT_EQ(*fetched, body);
+}
+
+TEST(BlockingHttpGet, ReturnsTheBodyOfAnErrorAnswer) {
+    test::LoopbackHttpServer server;
+    ASSERT_TRUE(server.listen());
+    const QByteArray body = test::xmlDictionary();
+    server.serve("/file", body, 404);
+
+    const auto fetched = BlockingHttpGet().get(QUrl(server.baseUrl() + "/file"), 20s);
+    ASSERT_TRUE(fetched.has_value());
+    EXPECT_EQ(*fetched, body);
+}
+
+TEST(BlockingHttpGet, NothingWhenNoAnswerCameInTime) {
+    test::LoopbackHttpServer server;
+    ASSERT_TRUE(server.listen());
+    server.serveLate("/file", kLateAnswer, test::xmlDictionary());
+
+    EXPECT_FALSE(BlockingHttpGet().get(QUrl(server.baseUrl() + "/file"), 200ms).has_value());
 }
 
 } // namespace
