@@ -3,8 +3,6 @@
 #include "core/platform/AccessibilityTrust.h"
 #include "shell/Alert.h"
 #include "shell/AlertPresenter.h"
-#include "shell/MessageBoxAlertPresenter.h"
-#include "shell/SiteAddress.h"
 #include "shell/VersionGate.h"
 
 #include <QCoreApplication>
@@ -16,11 +14,6 @@
 
 namespace tarnic {
 namespace {
-
-AlertPresenter& messageBoxes() {
-    static MessageBoxAlertPresenter presenter;
-    return presenter;
-}
 
 // One alert for a withdrawn release and for a machine that is offline: the program cannot tell
 // the two apart.
@@ -43,9 +36,6 @@ public:
 };
 
 } // namespace
-
-AppDelegate::AppDelegate(const AccessibilityTrust& trust, QObject* parent)
-    : AppDelegate(trust, siteBaseUrl(), messageBoxes(), kVersionLoadTimeout, parent) {}
 
 AppDelegate::AppDelegate(const AccessibilityTrust& trust, QString siteUrl, AlertPresenter& alerts,
                          std::chrono::milliseconds versionLoadTimeout, QObject* parent)

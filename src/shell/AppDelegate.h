@@ -19,10 +19,9 @@ class AppDelegate : public QObject {
     Q_OBJECT
 
 public:
-    // Checks the maker's site and shows a real message box.
-    explicit AppDelegate(const AccessibilityTrust& trust, QObject* parent = nullptr);
-    // `versionLoadTimeout` bounds the wait for the version-support file; the program always
-    // uses the default, tests shorten it.
+    // Checks the site at `siteUrl` and shows its alert through `alerts`. `versionLoadTimeout`
+    // bounds the wait for the version-support file; the program always uses the default, tests
+    // shorten it.
     AppDelegate(const AccessibilityTrust& trust, QString siteUrl, AlertPresenter& alerts,
                 std::chrono::milliseconds versionLoadTimeout = kVersionLoadTimeout,
                 QObject* parent = nullptr);
