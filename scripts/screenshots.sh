@@ -46,9 +46,9 @@ cleanup() {
 }
 trap cleanup EXIT
 
-python3 -u -m http.server --bind 127.0.0.1 --directory "$top/site" "$port" >"$scratch/http.log" 2>&1 &
+"$top/scripts/serve-site.sh" "$port" >"$scratch/http.log" 2>&1 &
 pids+=($!)
-timeout 20 grep -q -m1 '^Serving HTTP' <(tail -n +1 -F --pid=$! "$scratch/http.log" 2>/dev/null) ||
+timeout 20 grep -q -m1 '^serving ' <(tail -n +1 -F --pid=$! "$scratch/http.log" 2>/dev/null) ||
     fail "the site did not start: $(cat "$scratch/http.log")"
 
 xvfb_start 1280x900x24 || fail "Xvfb did not start"

@@ -4,4 +4,4 @@
 set -euo pipefail
 top=$(cd "$(dirname "$0")/.." && pwd)
 port=${1:-8765}
-exec python3 -m http.server --bind 127.0.0.1 "$port" --directory "$top/site"
+exec python3 -u "$top/tests/support/site_server.py" "$port" "$top/site"

@@ -8,11 +8,11 @@
 //
 //   bench_remapper_latency [presses] [spacing ms] [long-run presses] [long-run spacing ms]
 //                          [peer presses] [peer spacing ms]
-#include "x11/support/KeyLogLine.h"
-#include "x11/support/KeymapProbe.h"
-#include "x11/support/LineProcess.h"
-#include "x11/support/XTestDriver.h"
-#include "x11/support/XvfbSession.h"
+#include "support/KeyLogLine.h"
+#include "support/KeymapProbe.h"
+#include "support/LineProcess.h"
+#include "support/XTestDriver.h"
+#include "support/XvfbSession.h"
 
 #include <QCoreApplication>
 #include <QFile>

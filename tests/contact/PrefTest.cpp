@@ -9,7 +9,7 @@
 #include <QTemporaryDir>
 #include <QUrlQuery>
 
-#include "shell/QtPrinting.h"
+#include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>
 

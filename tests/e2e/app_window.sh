@@ -32,7 +32,7 @@ xvfb_start || fail "Xvfb did not start"
 wm_start || fail "openbox did not start"
 
 if [ "$mode" = up ] || [ "$mode" = quit ]; then
-    python3 -m http.server --bind 127.0.0.1 --directory "$site" "$port" >/dev/null 2>"$work/site.log" &
+    python3 -u "$here/../support/site_server.py" "$port" "$site" >/dev/null 2>"$work/site.log" &
     SITE_PID=$!
     deadline=$((SECONDS + 20))
     until python3 -c "import urllib.request,sys; urllib.request.urlopen('http://127.0.0.1:$port/tn11.plist', timeout=1)" 2>/dev/null; do
@@ -42,22 +42,10 @@ if [ "$mode" = up ] || [ "$mode" = quit ]; then
     done
 elif [ "$mode" = silent ]; then
     # Takes every connection and holds it open without a word.
-    python3 -u -c '
-import socket, sys
-server = socket.socket()
-server.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1)
-server.bind(("127.0.0.1", int(sys.argv[1])))
-server.listen(8)
-print("listening")
-held = []
-while True:
-    connection, _ = server.accept()
-    held.append(connection)
-    print("accepted")
-' "$port" >"$work/site.log" 2>&1 &
+    python3 -u "$here/../support/site_server.py" "$port" "$site" --silent >"$work/site.log" 2>&1 &
     SITE_PID=$!
     deadline=$((SECONDS + 20))
-    until grep -q '^listening$' "$work/site.log"; do
+    until grep -q '^serving ' "$work/site.log"; do
         [ $SECONDS -lt $deadline ] || fail "the silent site did not come up on port $port"
         kill -0 "$SITE_PID" 2>/dev/null || fail "port $port is taken"
         sleep 0.1

@@ -17,19 +17,10 @@ QByteArray golden(const char* name) {
 
 void EditorFixture::SetUp() {
     ASSERT_TRUE(dir_.isValid());
-    hadConfigHome_ = qEnvironmentVariableIsSet("XDG_CONFIG_HOME");
-    previousConfigHome_ = qgetenv("XDG_CONFIG_HOME");
-    QDir(dir_.path()).mkpath(QStringLiteral("config"));
-    qputenv("XDG_CONFIG_HOME", dir_.filePath(QStringLiteral("config")).toLocal8Bit());
 }
 
 void EditorFixture::TearDown() {
     shutDown();
-    if (hadConfigHome_) {
-        qputenv("XDG_CONFIG_HOME", previousConfigHome_);
-    } else {
-        qunsetenv("XDG_CONFIG_HOME");
-    }
 }
 
 void EditorFixture::launch() {

@@ -10,7 +10,7 @@
 
 #include <QByteArray>
 #include <QSettings>
-#include <QTemporaryDir>
+#include "support/XdgSandbox.h"
 
 #include <gtest/gtest.h>
 
@@ -62,13 +62,9 @@ protected:
     // What the remapper watches and types through: recording fakes the tests drive.
     FakeParts fakes() { return fakeParts(app_->platform()); }
 
-    QTemporaryDir dir_;
+    XdgSandbox dir_;
     std::unique_ptr<Application> app_;
     std::unique_ptr<WindowControls> controls_;
-
-private:
-    QByteArray previousConfigHome_;
-    bool hadConfigHome_ = false;
 };
 
 } // namespace tarnic::testing

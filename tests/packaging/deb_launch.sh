@@ -59,7 +59,7 @@ PLIST
 
 # The port is fixed by the build. Another test serving the same site may hold it for a while:
 # the server waits a bounded time for it, then says plainly what is in the way.
-python3 -u "$here/site_server.py" "$port" "$scratch/site" "$port_timeout" >"$scratch/http.log" 2>&1 &
+python3 -u "$here/../support/site_server.py" "$port" "$scratch/site" "$port_timeout" >"$scratch/http.log" 2>&1 &
 pids+=($!)
 server=$!
 timeout $((port_timeout + 10)) grep -q -m1 '^serving ' <(tail -n +1 -F --pid=$server "$scratch/http.log" 2>/dev/null) ||

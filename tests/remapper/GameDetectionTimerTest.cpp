@@ -66,9 +66,3 @@ TEST_F(GameDetectionTimerTest, StopsWithItsOwner) {
 
 } // namespace
 } // namespace tarnic
-
-int main(int argc, char** argv) {
-    QCoreApplication app(argc, argv);
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

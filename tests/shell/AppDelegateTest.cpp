@@ -2,7 +2,7 @@
 
 #include "core/platform/AccessibilityTrust.h"
 #include "shell/AlertPresenter.h"
-#include "shell/LoopbackHttpServer.h"
+#include "support/LoopbackHttpServer.h"
 #include "shell/PlistSamples.h"
 
 #include <QCoreApplication>
@@ -10,7 +10,7 @@
 #include <QGuiApplication>
 #include <QTimer>
 
-#include "shell/QtPrinting.h"
+#include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>
 

@@ -6,7 +6,7 @@
 #include <QPointer>
 #include <QTimer>
 
-#include "shell/QtPrinting.h"
+#include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 #include "shell/VersionGate.h"
 
 #include "shell/BlockingHttpGet.h"
-#include "shell/LoopbackHttpServer.h"
+#include "support/LoopbackHttpServer.h"
 #include "shell/PlistSamples.h"
 #include "shell/SiteAddress.h"
 
-#include "shell/QtPrinting.h"
+#include "support/QtPrinters.h"
 
 #include <QTest>
 

@@ -5,25 +5,10 @@
 
 #include <stdexcept>
 
-StoreFolder::StoreFolder()
-    : previous_(qgetenv("XDG_CONFIG_HOME")),
-      hadPrevious_(qEnvironmentVariableIsSet("XDG_CONFIG_HOME")) {
-    if (!dir_.isValid()) {
+StoreFolder::StoreFolder() {
+    if (!sandbox_.isValid()) {
         throw std::runtime_error("no temporary folder");
     }
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(configHome()));
-}
-
-StoreFolder::~StoreFolder() {
-    if (hadPrevious_) {
-        qputenv("XDG_CONFIG_HOME", previous_);
-    } else {
-        qunsetenv("XDG_CONFIG_HOME");
-    }
-}
-
-QString StoreFolder::configHome() const {
-    return dir_.path() + QStringLiteral("/config");
 }
 
 QString StoreFolder::storePath() const {

@@ -3,18 +3,16 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
-#include <QTemporaryDir>
 
-// A private XDG config folder for one test: XDG_CONFIG_HOME points into a temporary folder while
-// the object lives, and is restored afterwards.
+#include "support/XdgSandbox.h"
+
+// The store's folder in a test's own XDG sandbox, with ways to write and read the store file
+// around the program's back.
 class StoreFolder {
 public:
     StoreFolder();
-    ~StoreFolder();
-    StoreFolder(const StoreFolder&) = delete;
-    StoreFolder& operator=(const StoreFolder&) = delete;
 
-    QString configHome() const;
+    QString configHome() const { return sandbox_.configHome(); }
     // Where the store file is expected: <config home>/Tarnic/Tarnic Pro.plist.
     QString storePath() const;
     // Writes the store file with exactly these bytes, creating the folder.
@@ -25,9 +23,7 @@ public:
     QByteArray readInStoreFolder(const QString& name) const;
 
 private:
-    QTemporaryDir dir_;
-    QByteArray previous_;
-    bool hadPrevious_;
+    XdgSandbox sandbox_;
 };
 
 // The bytes of an XML property list with the given body inside <plist>.

@@ -3,12 +3,12 @@
 // Bindings with and without Shift, Shift held or not, Num Lock on and off: every slot's tap must
 // arrive as its VK_NUMPADn with the keypad's scan code, never as a cursor key, and Num Lock must
 // be left exactly as it was.
-#include "x11/support/KeymapProbe.h"
-#include "x11/support/LineProcess.h"
-#include "x11/support/QtPrinters.h"
-#include "x11/support/XKeycodes.h"
-#include "x11/support/XTestDriver.h"
-#include "x11/support/XvfbSession.h"
+#include "support/KeymapProbe.h"
+#include "support/LineProcess.h"
+#include "support/QtPrinters.h"
+#include "support/XKeycodes.h"
+#include "support/XTestDriver.h"
+#include "support/XvfbSession.h"
 
 #include <QCoreApplication>
 #include <QProcess>

@@ -2,13 +2,13 @@
 #include "core/remapper/InventoryRemapper.h"
 #include "core/vocabulary/KeyCodes.h"
 #include "platform/x11/X11Platform.h"
-#include "x11/support/KeyLogLine.h"
-#include "x11/support/KeymapProbe.h"
-#include "x11/support/LineProcess.h"
-#include "x11/support/ProcessUntil.h"
-#include "x11/support/XTestDriver.h"
-#include "x11/support/XvfbSession.h"
-#include "x11/support/XKeycodes.h"
+#include "support/KeyLogLine.h"
+#include "support/KeymapProbe.h"
+#include "support/LineProcess.h"
+#include "support/ProcessUntil.h"
+#include "support/XTestDriver.h"
+#include "support/XvfbSession.h"
+#include "support/XKeycodes.h"
 
 #include <QCoreApplication>
 

@@ -1,13 +1,13 @@
 // The remapper as a player meets it: a stand-in for the application (Qt on xcb, the X11 backend,
 // the remapper's decisions) and a separate X client that has the focus and logs what it receives,
 // both on a private Xvfb with openbox; the keyboard is XTest.
-#include "x11/support/KeyLogLine.h"
-#include "x11/support/KeymapProbe.h"
-#include "x11/support/LineProcess.h"
-#include "x11/support/QtPrinters.h"
-#include "x11/support/XTestDriver.h"
-#include "x11/support/XvfbSession.h"
-#include "x11/support/XKeycodes.h"
+#include "support/KeyLogLine.h"
+#include "support/KeymapProbe.h"
+#include "support/LineProcess.h"
+#include "support/QtPrinters.h"
+#include "support/XTestDriver.h"
+#include "support/XvfbSession.h"
+#include "support/XKeycodes.h"
 
 #include <QCoreApplication>
 

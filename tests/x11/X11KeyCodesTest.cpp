@@ -1,7 +1,7 @@
 #include "platform/x11/X11KeyCodes.h"
 
 #include "core/vocabulary/KeyCodes.h"
-#include "x11/support/XKeycodes.h"
+#include "support/XKeycodes.h"
 
 #include <gtest/gtest.h>
 #include <linux/input-event-codes.h>

@@ -1,5 +1,5 @@
 #include "platform/x11/X11KeyRouter.h"
-#include "x11/support/XKeycodes.h"
+#include "support/XKeycodes.h"
 
 #include <gtest/gtest.h>
 #include <linux/input-event-codes.h>

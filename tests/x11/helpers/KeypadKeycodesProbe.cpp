@@ -2,7 +2,7 @@
 // and what the backend's record on the root window names. On $DISPLAY; prints, one line each:
 //   digit <slot 1..6> <keycode>     a keycode whose only keysym is that slot's keypad digit
 //   record <keycode> ...            the record, when there is one (0 for a slot without keycode)
-#include "x11/support/KeymapProbe.h"
+#include "support/KeymapProbe.h"
 
 #include <cstdio>
 #include <cstdlib>

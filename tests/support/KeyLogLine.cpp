@@ -1,4 +1,4 @@
-#include "x11/support/KeyLogLine.h"
+#include "support/KeyLogLine.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
-#include "x11/support/XvfbSession.h"
+#include "support/XvfbSession.h"
 
-#include "x11/support/ChildProcess.h"
+#include "support/ChildProcess.h"
 
 #include <QByteArray>
 

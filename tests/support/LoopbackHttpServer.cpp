@@ -1,4 +1,4 @@
-#include "shell/LoopbackHttpServer.h"
+#include "support/LoopbackHttpServer.h"
 
 #include <QHostAddress>
 #include <QPointer>

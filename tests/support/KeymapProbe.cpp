@@ -1,4 +1,4 @@
-#include "x11/support/KeymapProbe.h"
+#include "support/KeymapProbe.h"
 
 #include <X11/XKBlib.h>
 #include <X11/Xatom.h>

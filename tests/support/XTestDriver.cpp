@@ -1,4 +1,4 @@
-#include "x11/support/XTestDriver.h"
+#include "support/XTestDriver.h"
 
 #include <X11/XKBlib.h>
 #include <X11/Xatom.h>

@@ -1,17 +1,20 @@
 #!/usr/bin/env python3
-"""Serves a folder on 127.0.0.1 as `python3 -m http.server` does, and names in each log line the
-process that sent the request, so that a test tells its own program's requests from those of
-anything else on the machine that fetches from the same address.
+"""The one loopback copy of the maker's site, for the run command, the screenshots and every
+test that starts the program. Serves a folder on 127.0.0.1 as `python3 -m http.server` does, and
+names in each log line the process that sent the request, so that a test tells its own program's
+requests from those of anything else on the machine that fetches from the same address.
 
-    site_server.py PORT FOLDER PATIENCE_SECONDS
+    site_server.py PORT FOLDER [PATIENCE_SECONDS] [--silent]
 
 The port is the one the program under test was built for. While another server holds it, this
-one retries for PATIENCE_SECONDS, then exits with status 3 and says so. Once listening it prints
-"serving ..." on standard error."""
+one retries for PATIENCE_SECONDS (default 0), then exits with status 3 and says so. Once
+listening it prints "serving ..." on standard error. With --silent it takes every connection and
+never answers (a site that hangs), printing "accepted" for each."""
 
 import functools
 import http.server
 import os
+import socketserver
 import sys
 import time
 
@@ -64,13 +67,31 @@ class Handler(http.server.SimpleHTTPRequestHandler):
                                                     getattr(self, "client_pid", "?")))
 
 
+class SilentServer(socketserver.TCPServer):
+    """Accepts and holds every connection without reading or answering it."""
+
+    allow_reuse_address = True
+
+    def __init__(self, address, _handler):
+        super().__init__(address, None)
+        self.held = []
+
+    def process_request(self, request, client_address):
+        self.held.append(request)
+        print("accepted", file=sys.stderr, flush=True)
+
+
 def main():
-    port, root, patience = int(sys.argv[1]), sys.argv[2], float(sys.argv[3])
+    args = [arg for arg in sys.argv[1:] if arg != "--silent"]
+    silent = len(args) != len(sys.argv) - 1
+    port, root = int(args[0]), args[1]
+    patience = float(args[2]) if len(args) > 2 else 0.0
     handler = functools.partial(Handler, directory=root)
+    server_class = SilentServer if silent else http.server.ThreadingHTTPServer
     deadline = time.monotonic() + patience
     while True:
         try:
-            server = http.server.ThreadingHTTPServer(("127.0.0.1", port), handler)
+            server = server_class(("127.0.0.1", port), handler)
             break
         except OSError as error:
             if time.monotonic() > deadline:

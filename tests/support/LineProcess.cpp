@@ -1,6 +1,6 @@
-#include "x11/support/LineProcess.h"
+#include "support/LineProcess.h"
 
-#include "x11/support/ChildProcess.h"
+#include "support/ChildProcess.h"
 
 #include <algorithm>
 

@@ -18,7 +18,8 @@ void quietOffscreenNotes(QtMsgType type, const QMessageLogContext& context, cons
 
 } // namespace
 
-// One application object for every test, as the program has; widgets draw offscreen.
+// The main of every Qt test program: one application object for all its tests, named as the
+// program names itself, with widgets drawn offscreen unless the environment says otherwise.
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
