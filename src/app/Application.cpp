@@ -18,6 +18,8 @@ Application::Application(Platform platform, Options options)
     QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &delegate_,
                      &AppDelegate::applicationWillTerminate);
     window_.connectController(controller_);
+    // The import reports through the same seam as the version gate.
+    controller_.setAlerts(options_.alerts != nullptr ? *options_.alerts : messageBoxes_);
 }
 
 Application::~Application() = default;

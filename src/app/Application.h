@@ -27,7 +27,7 @@ public:
     struct Options {
         // The maker's site, for the version gate.
         QString siteUrl;
-        // Where the version gate's alert goes; null: a real message box.
+        // Where the version gate's alert and the import's message go; null: a real message box.
         AlertPresenter* alerts = nullptr;
         std::chrono::milliseconds gameDetectionInterval{GameDetectionTimer::kIntervalMs};
 

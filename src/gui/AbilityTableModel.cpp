@@ -1,8 +1,11 @@
 #include "gui/AbilityTableModel.h"
 
+#include "core/editor/ClashRule.h"
 #include "gui/GuiResources.h"
 
+#include <QApplication>
 #include <QPixmap>
+#include <QStyle>
 
 namespace tarnic {
 
@@ -39,6 +42,43 @@ void AbilityTableModel::rowChanged(int row) {
     }
 }
 
+void AbilityTableModel::setClashPartners(std::vector<std::vector<std::size_t>> partners) {
+    clashPartners_ = std::move(partners);
+    if (clashIcon_.isNull()) {
+        clashIcon_ = QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
+    }
+    const int column = static_cast<int>(identifiers_.indexOf(QLatin1String(new_hotkey)));
+    if (column >= 0 && rows_ > 0) {
+        emit dataChanged(index(0, column), index(rows_ - 1, column),
+                         {Qt::DecorationRole, Qt::ToolTipRole});
+    }
+}
+
+QVariant AbilityTableModel::clashMark(int row, int role) const {
+    const auto at = static_cast<std::size_t>(row);
+    if (at >= clashPartners_.size() || clashPartners_[at].empty()) {
+        return {};
+    }
+    if (role == Qt::DecorationRole) {
+        return clashIcon_;
+    }
+    // "Q is also the key of Storm Bolt and Attack."
+    QStringList names;
+    for (std::size_t partner : clashPartners_[at]) {
+        if (partner < list_.size()) {
+            const std::string* name = field(list_[partner], name_spell);
+            names << (name != nullptr ? QString::fromStdString(*name) : QString());
+        }
+    }
+    QString joined = names.join(QStringLiteral(", "));
+    if (names.size() > 1) {
+        joined = names.mid(0, names.size() - 1).join(QStringLiteral(", ")) +
+                 QStringLiteral(" and ") + names.last();
+    }
+    return QStringLiteral("%1 is also the key of %2.")
+        .arg(QString::fromStdString(keyInForce(list_[at])), joined);
+}
+
 int AbilityTableModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : rows_;
 }
@@ -53,6 +93,9 @@ QVariant AbilityTableModel::data(const QModelIndex& index, int role) const {
         return {};
     }
     const std::string key = identifiers_.at(index.column()).toStdString();
+    if (key == new_hotkey && (role == Qt::DecorationRole || role == Qt::ToolTipRole)) {
+        return clashMark(index.row(), role);
+    }
     const bool isKey = key == def_hotkey || key == new_hotkey;
     if (role == Qt::TextAlignmentRole && isKey) {
         return QVariant::fromValue(Qt::Alignment(Qt::AlignCenter));

@@ -4,9 +4,11 @@
 
 #include <QAbstractTableModel>
 #include <QHash>
+#include <QIcon>
 #include <QPixmap>
 #include <QStringList>
 
+#include <cstddef>
 #include <vector>
 
 namespace tarnic {
@@ -30,6 +32,10 @@ public:
     // One record changed in place.
     void rowChanged(int row);
 
+    // For each row the rows whose abilities clash with it (clashPartners). A row with partners
+    // shows a warning mark in the "new hotkey" column, and its tooltip names them.
+    void setClashPartners(std::vector<std::vector<std::size_t>> partners);
+
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
@@ -41,6 +47,7 @@ public:
 
 private:
     QPixmap thumbnail(const QString& name) const;
+    QVariant clashMark(int row, int role) const;
 
     const std::vector<AbilityRecord>& list_;
     QStringList identifiers_;
@@ -48,6 +55,8 @@ private:
     // The row count the views were last told; the list may already have changed.
     int rows_ = 0;
     mutable QHash<QString, QPixmap> thumbnails_;
+    std::vector<std::vector<std::size_t>> clashPartners_;
+    QIcon clashIcon_;
 };
 
 } // namespace tarnic

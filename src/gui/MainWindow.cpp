@@ -5,6 +5,9 @@
 #include "gui/ViewController.h"
 #include "ui_MainWindow.h"
 
+#include <QLabel>
+#include <QStatusBar>
+
 namespace tarnic {
 
 MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui_(new Ui::MainWindow) {
@@ -19,6 +22,13 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui_(new Ui::MainW
         control->setSizePolicy(policy);
         control->hide();
     }
+    // The number of clashes stands in the status bar, where a glance finds it.
+    auto* clashes = new QLabel(this);
+    clashes->setObjectName(QStringLiteral("clashLbl"));
+    clashes->setTextFormat(Qt::PlainText);
+    clashes->setToolTip(tr("Clashes: two abilities of one unit on the same key. The New column "
+                           "marks each of them."));
+    ui_->statusbar->addWidget(clashes, 1);
     // Quitting is closing the main window.
     connect(ui_->actionQuit, &QAction::triggered, this, &QWidget::close);
     connect(ui_->actionContact, &QAction::triggered, this, [this] { showContactPanel(this); });
@@ -38,6 +48,7 @@ void MainWindow::connectController(ViewController& c) {
     c.inventPopup = w.inventPopup;
     c.isShiftBox = w.isShiftBox;
     c.delBTN = w.delBTN;
+    c.clashLbl = findChild<QLabel*>(QStringLiteral("clashLbl"));
 
     // A pop-up changes a key only when the player picks from its list; the pick sends the
     // action, then the focus goes back to the table so that the arrow keys move through the
@@ -51,6 +62,7 @@ void MainWindow::connectController(ViewController& c) {
     connect(w.actionReset, &QAction::triggered, &c, &ViewController::resetToDef);
     connect(w.actionGrid, &QAction::triggered, &c, &ViewController::allQWER);
     connect(w.actionExport, &QAction::triggered, &c, &ViewController::saveCKeys);
+    connect(w.actionImport, &QAction::triggered, &c, &ViewController::importCKeys);
 
     connect(w.invent1, &QPushButton::clicked, &c, &ViewController::invent1);
     connect(w.invent2, &QPushButton::clicked, &c, &ViewController::invent2);

@@ -1,19 +1,23 @@
 #include "gui/ViewController.h"
 
 #include "core/catalogue/Catalogue.h"
+#include "core/editor/ClashRule.h"
 #include "core/editor/ExportText.h"
 #include "core/editor/GridLayout.h"
 #include "core/editor/InventoryBinding.h"
 #include "core/editor/KeyAssignment.h"
 #include "core/editor/SelectionDetail.h"
 #include "core/fatal/Fatal.h"
+#include "core/import/CustomKeysImport.h"
 #include "gui/AbilityTableView.h"
 #include "gui/GuiResources.h"
 #include "gui/Outlet.h"
+#include "shell/MessageBoxAlertPresenter.h"
 
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QSaveFile>
@@ -40,6 +44,21 @@ std::optional<std::string> selectedTitle(const QComboBox& popup) {
 
 QPixmap pictureNamed(const std::string& name) {
     return QPixmap(QStringLiteral(":/images/") + qs(name) + QStringLiteral(".png"));
+}
+
+// The game's own file is about 60 kB; anything past this is not a hotkey file, and reading stops
+// there (a device that never ends reads no further either).
+constexpr qint64 kLargestHotkeyFile = 4 * 1024 * 1024;
+
+QString clashCountText(std::size_t count) {
+    if (count == 0) {
+        return QStringLiteral("No clashes");
+    }
+    return count == 1 ? QStringLiteral("1 clash") : QStringLiteral("%1 clashes").arg(count);
+}
+
+Alert importAlert(const QString& text, const QString& details, QMessageBox::Icon icon) {
+    return {text, details, {QStringLiteral("OK")}, icon};
 }
 
 } // namespace
@@ -85,7 +104,7 @@ void ViewController::viewDidLoad() {
         mainDic = std::move(*stored);
         reloadData();
     }
-    defaults_.setMainDic(mainDic);
+    storeMainDic();
 
     QFile templateFile(QStringLiteral(":/defaultkeys"));
     if (templateFile.open(QIODevice::ReadOnly)) {
@@ -93,6 +112,7 @@ void ViewController::viewDidLoad() {
     }
 
     selectRow(outlet(tableView, "tableView"), 0);
+    listChanged();
 
     // Hiding the application ends it, as closing the window does.
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
@@ -167,19 +187,37 @@ void ViewController::setKey() {
     assignKey(mainDic[row], selectedTitle(outlet(keysPopup, "keysPopup")));
     // Not a reload and not stored: the list reaches the store at the next start or layout.
     tableModel_.rowChanged(static_cast<int>(row));
+    listChanged();
 }
 
 void ViewController::resetToDef() {
     mainDic = all_data();
     reloadData();
     syncKeysPopup();
+    listChanged();
 }
 
 void ViewController::allQWER() {
     tarnic::allQWER(mainDic);
     reloadData();
-    defaults_.setMainDic(mainDic);
+    storeMainDic();
     syncKeysPopup();
+    listChanged();
+}
+
+void ViewController::storeMainDic() {
+    defaults_.setMainDic(mainDic);
+    storedDic_ = mainDic;
+}
+
+void ViewController::listChanged() {
+    const std::vector<Clash> clashes = findClashes(mainDic);
+    tableModel_.setClashPartners(clashPartners(clashes, mainDic.size()));
+    outlet(clashLbl, "clashLbl").setText(clashCountText(clashes.size()));
+    // A key set by hand lives in memory only; the title says so until the list is stored.
+    if (QWidget* window = outlet(tableView, "tableView").window()) {
+        window->setWindowModified(mainDic != storedDic_);
+    }
 }
 
 // ---- Export ----
@@ -205,6 +243,59 @@ void ViewController::writeResult(const std::optional<QString>& path) {
         }
     }
     emit exportFinished();
+}
+
+// ---- Import ----
+
+void ViewController::importCKeys() {
+    QWidget* parent = tableView.isNull() ? nullptr : tableView->window();
+    fileDialog_.openTextFile(parent, this,
+                             [this](std::optional<QString> path) { readCustomKeys(path); });
+}
+
+void ViewController::readCustomKeys(const std::optional<QString>& path) {
+    if (path && !path->isEmpty()) {
+        const Alert alert = importFrom(*path);
+        MessageBoxAlertPresenter messageBox;
+        (alerts_ != nullptr ? *alerts_ : messageBox).run(alert);
+    }
+    emit importFinished();
+}
+
+Alert ViewController::importFrom(const QString& path) {
+    const QString name = QFileInfo(path).fileName();
+    const QString unchanged = QStringLiteral("Nothing was changed.");
+    QFile file(path);
+    const auto unreadable = [&] {
+        return importAlert(QStringLiteral("\u201C%1\u201D could not be read.").arg(name),
+                           file.errorString() + QStringLiteral(". ") + unchanged,
+                           QMessageBox::Warning);
+    };
+    if (!file.open(QIODevice::ReadOnly)) {
+        return unreadable();
+    }
+    const QByteArray bytes = file.read(kLargestHotkeyFile + 1);
+    if (file.error() != QFileDevice::NoError) {
+        return unreadable();
+    }
+    if (bytes.size() > kLargestHotkeyFile) {
+        return importAlert(
+            QStringLiteral("\u201C%1\u201D is too large for a hotkey file.").arg(name), unchanged,
+            QMessageBox::Warning);
+    }
+    const ImportReport report = importCustomKeys(
+        mainDic, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+    if (!report.holdsCatalogue()) {
+        return importAlert(
+            QStringLiteral("\u201C%1\u201D holds no hotkeys of the abilities in the list.")
+                .arg(name),
+            unchanged, QMessageBox::Warning);
+    }
+    reloadData();
+    syncKeysPopup();
+    listChanged();
+    return importAlert(qs(importSummary(report)), qs(importDetails(report)),
+                       QMessageBox::Information);
 }
 
 // ---- Inventory keys ----

@@ -5,6 +5,7 @@
 #include "core/vocabulary/KeyCodes.h"
 #include "gui/AbilityTableModel.h"
 #include "gui/FileDialog.h"
+#include "shell/AlertPresenter.h"
 #include "store/UserDefaults.h"
 
 #include <QCheckBox>
@@ -64,6 +65,8 @@ public:
     const std::array<std::string_view, 22>& keyboardKeysNum;
 
     QPointer<QComboBox> keysPopup;
+    // The status bar's count of clashes.
+    QPointer<QLabel> clashLbl;
 
     // Runs once, after the window has connected the outlets: restores the stored bindings and
     // list, fills the pop-ups, reads the template and selects the first row.
@@ -71,8 +74,11 @@ public:
     // Runs when the window is shown: from then on closing the window ends the application.
     void viewDidAppear();
 
-    // The save dialog of the export; tests answer it through here.
+    // The file dialogs of the export and the import; tests answer them through here.
     FileDialog& fileDialog() { return fileDialog_; }
+    // Where the import's message goes; without one, a message box. It must outlive the
+    // controller.
+    void setAlerts(AlertPresenter& alerts) { alerts_ = &alerts; }
     // The table's data.
     AbilityTableModel& tableModel() { return tableModel_; }
 
@@ -95,10 +101,15 @@ public:
     void resetToDef();
     void allQWER();
     void saveCKeys();
+    // Reads a CustomKeys.txt the player chooses into the working list, like a key set by hand:
+    // in memory only. Says what it did in a message.
+    void importCKeys();
 
 signals:
     // The save dialog of an export was answered and, if accepted, the file written or not.
     void exportFinished();
+    // The open dialog of an import was answered and, if accepted, its message dismissed.
+    void importFinished();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -110,8 +121,19 @@ private:
     void reloadData();
     void syncKeysPopup();
     void writeResult(const std::optional<QString>& path);
+    void readCustomKeys(const std::optional<QString>& path);
+    // Imports the file and tells what happened; the list changes only when the file holds
+    // something of it.
+    Alert importFrom(const QString& path);
+    // After every change of the working list: the clash marks and count, and the title's mark of
+    // a list that differs from the stored one.
+    void listChanged();
+    void storeMainDic();
 
     UserDefaults defaults_;
+    // What the store holds under "mainDic", as last written.
+    std::vector<AbilityRecord> storedDic_;
+    AlertPresenter* alerts_ = nullptr;
     AbilityTableModel tableModel_;
     FileDialog fileDialog_;
     QPointer<QWidget> window_;

@@ -28,6 +28,7 @@ void EditorFixture::launch() {
     Application::Options options;
     options.siteUrl.clear();
     options.gameDetectionInterval = kTestTickInterval;
+    options.alerts = &alerts_;
     app_ = std::make_unique<Application>(makeFakePlatform(), options);
     controls_ = std::make_unique<WindowControls>(app_->window());
     app_->start();

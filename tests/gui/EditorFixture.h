@@ -1,5 +1,6 @@
 #pragma once
 
+#include "RecordingAlerts.h"
 #include "WindowControls.h"
 #include "app/Application.h"
 #include "core/record/AbilityRecord.h"
@@ -26,7 +27,8 @@ QByteArray golden(const char* name);
 // One start of the application, put together exactly as the program is, on the recording fakes
 // and a private store: every test gets its own XDG config folder (XDG_CONFIG_HOME in a temporary
 // folder), and may start the application more than once on it. The version gate is left out (no
-// site), and the game-detection timer ticks every few milliseconds instead of every 2 seconds.
+// site), the game-detection timer ticks every few milliseconds instead of every 2 seconds, and
+// the window's alerts are recorded in alerts() instead of shown.
 class EditorFixture : public ::testing::Test {
 protected:
     void SetUp() override;
@@ -59,10 +61,12 @@ protected:
     Application& app() { return *app_; }
     ViewController& vc() { return app_->controller(); }
     MainWindow& window() { return app_->window(); }
+    RecordingAlerts& alerts() { return alerts_; }
     // What the remapper watches and types through: recording fakes the tests drive.
     FakeParts fakes() { return fakeParts(app_->platform()); }
 
     XdgSandbox dir_;
+    RecordingAlerts alerts_;
     std::unique_ptr<Application> app_;
     std::unique_ptr<WindowControls> controls_;
 };

@@ -34,6 +34,8 @@ WindowControls::WindowControls(QWidget& window)
       isShiftBox(control<QCheckBox>(window, "isShiftBox")),
       delBTN(control<QPushButton>(window, "delBTN")),
       exportButton(control<QPushButton>(window, "exportButton")),
+      clashLbl(control<QLabel>(window, "clashLbl")),
+      actionImport(control<QAction>(window, "actionImport")),
       actionExport(control<QAction>(window, "actionExport")),
       actionQuit(control<QAction>(window, "actionQuit")),
       actionGrid(control<QAction>(window, "actionGrid")),

@@ -35,6 +35,8 @@ struct WindowControls {
     QCheckBox* isShiftBox;
     QPushButton* delBTN;
     QPushButton* exportButton;
+    QLabel* clashLbl;
+    QAction* actionImport;
     QAction* actionExport;
     QAction* actionQuit;
     QAction* actionGrid;

@@ -1,0 +1,76 @@
+#include "core/editor/ClashRule.h"
+
+#include <algorithm>
+#include <map>
+
+namespace tarnic {
+
+namespace {
+
+bool isGeneralCommand(const std::vector<AbilityRecord>& list, std::size_t index) {
+    return index < kGeneralCommandCount && field(list[index], name_parent) == nullptr;
+}
+
+bool oneUnitHasBoth(const std::vector<AbilityRecord>& list, std::size_t a, std::size_t b) {
+    const std::string* ownerA = field(list[a], name_parent);
+    const std::string* ownerB = field(list[b], name_parent);
+    if (ownerA != nullptr && ownerB != nullptr) {
+        return *ownerA == *ownerB;
+    }
+    const bool generalA = isGeneralCommand(list, a);
+    const bool generalB = isGeneralCommand(list, b);
+    return (generalA && (generalB || ownerB != nullptr)) || (generalB && ownerA != nullptr);
+}
+
+} // namespace
+
+std::string keyInForce(const AbilityRecord& record) {
+    const std::string* chosen = field(record, new_hotkey);
+    if (chosen != nullptr && !chosen->empty()) {
+        return *chosen;
+    }
+    const std::string* fallback = field(record, def_hotkey);
+    return fallback != nullptr ? *fallback : std::string();
+}
+
+std::vector<Clash> findClashes(const std::vector<AbilityRecord>& list) {
+    // Only abilities on one key can clash, so compare within each key's group.
+    std::map<std::string, std::vector<std::size_t>> byKey;
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        std::string key = keyInForce(list[i]);
+        if (!key.empty()) {
+            byKey[std::move(key)].push_back(i);
+        }
+    }
+    std::vector<Clash> clashes;
+    for (const auto& [key, positions] : byKey) {
+        for (std::size_t a = 0; a < positions.size(); ++a) {
+            for (std::size_t b = a + 1; b < positions.size(); ++b) {
+                if (oneUnitHasBoth(list, positions[a], positions[b])) {
+                    clashes.push_back({positions[a], positions[b]});
+                }
+            }
+        }
+    }
+    std::sort(clashes.begin(), clashes.end(), [](const Clash& x, const Clash& y) {
+        return x.first != y.first ? x.first < y.first : x.second < y.second;
+    });
+    return clashes;
+}
+
+std::vector<std::vector<std::size_t>> clashPartners(const std::vector<Clash>& clashes,
+                                                    std::size_t listSize) {
+    std::vector<std::vector<std::size_t>> partners(listSize);
+    for (const Clash& clash : clashes) {
+        if (clash.first < listSize && clash.second < listSize) {
+            partners[clash.first].push_back(clash.second);
+            partners[clash.second].push_back(clash.first);
+        }
+    }
+    for (std::vector<std::size_t>& row : partners) {
+        std::sort(row.begin(), row.end());
+    }
+    return partners;
+}
+
+} // namespace tarnic
