@@ -34,8 +34,8 @@ public:
         Options();
     };
 
-    // Opens the store and builds everything on `platform`; nothing is shown or loaded yet. Needs
-    // the QApplication.
+    // Opens the store and the options file and builds everything on `platform`; nothing is shown
+    // or loaded yet. Needs the QApplication.
     explicit Application(Platform platform, Options options = Options());
     ~Application();
     Application(const Application&) = delete;
@@ -47,6 +47,7 @@ public:
     void start();
 
     QSettings& store() { return *store_; }
+    QSettings& programOptions() { return *programOptions_; }
     Platform& platform() { return platform_; }
     ViewController& controller() { return controller_; }
     RemapperSession& remapperSession() { return remapperSession_; }
@@ -58,9 +59,11 @@ public:
 private:
     Options options_;
     std::unique_ptr<QSettings> store_;
+    std::unique_ptr<QSettings> programOptions_;
     Platform platform_;
     ViewController controller_;
-    // After the controller: it reads the controller's six bindings on every key press.
+    // After the controller: it reads the controller's six bindings and the options on every key
+    // press.
     RemapperSession remapperSession_;
     std::unique_ptr<GameDetectionTimer> gameDetectionTimer_;
     MainWindow window_;

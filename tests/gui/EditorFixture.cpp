@@ -33,11 +33,15 @@ void EditorFixture::TearDown() {
 }
 
 void EditorFixture::launch() {
+    launch(makeFakePlatform());
+}
+
+void EditorFixture::launch(Platform platform) {
     shutDown();
     Application::Options options;
     options.siteUrl.clear();
     options.gameDetectionInterval = kTestTickInterval;
-    app_ = std::make_unique<Application>(makeFakePlatform(), options);
+    app_ = std::make_unique<Application>(std::move(platform), options);
     controls_ = std::make_unique<WindowControls>(app_->window());
     app_->start();
 }
@@ -66,6 +70,11 @@ std::optional<InventoryModel> EditorFixture::storedInventoryModel(int slot) cons
 bool EditorFixture::storeHasKey(const QString& key) const {
     QSettings settings(storePath(), plistSettingsFormat());
     return settings.contains(key);
+}
+
+QStringList EditorFixture::storeKeys() const {
+    QSettings settings(storePath(), plistSettingsFormat());
+    return settings.allKeys();
 }
 
 void EditorFixture::storeMainDic(const std::vector<AbilityRecord>& list) const {
