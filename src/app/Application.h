@@ -18,9 +18,10 @@ namespace tarnic {
 
 class AlertPresenter;
 
-// The whole program, put together in one place, in start-up order: the store, the platform, the
-// controller with the remapper session and its game-detection timer, the window with its menus,
-// and the delegate. `main` runs one; the window tests run one on the recording fakes.
+// The whole program, put together in one place, in start-up order: the store and the options
+// file, the platform, the controller with the remapper session and its game-detection timer, the
+// window with its menus, and the delegate. `main` runs one; the window tests run one on the
+// recording fakes.
 class Application {
 public:
     // What differs between the program and its tests. The program uses the defaults.
@@ -47,7 +48,6 @@ public:
     void start();
 
     QSettings& store() { return *store_; }
-    QSettings& programOptions() { return *programOptions_; }
     Platform& platform() { return platform_; }
     ViewController& controller() { return controller_; }
     RemapperSession& remapperSession() { return remapperSession_; }
