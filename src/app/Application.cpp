@@ -1,6 +1,7 @@
 #include "app/Application.h"
 
 #include "shell/SiteAddress.h"
+#include "store/ProgramOptions.h"
 #include "store/UserDefaults.h"
 
 #include <QCoreApplication>
@@ -11,8 +12,10 @@ namespace tarnic {
 Application::Options::Options() : siteUrl(siteBaseUrl()) {}
 
 Application::Application(Platform platform, Options options)
-    : options_(std::move(options)), store_(openUserDefaults()), platform_(std::move(platform)),
-      controller_(*store_), remapperSession_(controller_.inventoryModels, platform_),
+    : options_(std::move(options)), store_(openUserDefaults()),
+      programOptions_(openProgramOptions()), platform_(std::move(platform)),
+      controller_(*store_, *programOptions_),
+      remapperSession_(controller_.inventoryModels, controller_.inventoryOptions, platform_),
       delegate_(*platform_.accessibilityTrust, options_.siteUrl,
                 options_.alerts != nullptr ? *options_.alerts : messageBoxes_) {
     QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &delegate_,
@@ -26,6 +29,7 @@ Application::~Application() = default;
 
 void Application::start() {
     controller_.viewDidLoad();
+    controller_.showInventoryStatus(*platform_.accessibilityTrust);
     // The inventory remapper: watch the keys of other applications (key-down, then modifier
     // changes) and look for the game every 2 seconds. Neither is ever removed.
     remapperSession_.installObservers();

@@ -18,9 +18,10 @@ namespace tarnic {
 
 class AlertPresenter;
 
-// The whole program, put together in one place, in start-up order: the store, the platform, the
-// controller with the remapper session and its game-detection timer, the window with its menus,
-// and the delegate. `main` runs one; the window tests run one on the recording fakes.
+// The whole program, put together in one place, in start-up order: the store and the options
+// file, the platform, the controller with the remapper session and its game-detection timer, the
+// window with its menus, and the delegate. `main` runs one; the window tests run one on the
+// recording fakes.
 class Application {
 public:
     // What differs between the program and its tests. The program uses the defaults.
@@ -34,8 +35,8 @@ public:
         Options();
     };
 
-    // Opens the store and builds everything on `platform`; nothing is shown or loaded yet. Needs
-    // the QApplication.
+    // Opens the store and the options file and builds everything on `platform`; nothing is shown
+    // or loaded yet. Needs the QApplication.
     explicit Application(Platform platform, Options options = Options());
     ~Application();
     Application(const Application&) = delete;
@@ -58,9 +59,11 @@ public:
 private:
     Options options_;
     std::unique_ptr<QSettings> store_;
+    std::unique_ptr<QSettings> programOptions_;
     Platform platform_;
     ViewController controller_;
-    // After the controller: it reads the controller's six bindings on every key press.
+    // After the controller: it reads the controller's six bindings and the options on every key
+    // press.
     RemapperSession remapperSession_;
     std::unique_ptr<GameDetectionTimer> gameDetectionTimer_;
     MainWindow window_;

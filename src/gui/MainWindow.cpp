@@ -49,6 +49,10 @@ void MainWindow::connectController(ViewController& c) {
     c.isShiftBox = w.isShiftBox;
     c.delBTN = w.delBTN;
     c.clashLbl = findChild<QLabel*>(QStringLiteral("clashLbl"));
+    c.inventButtons = {w.invent1, w.invent2, w.invent3, w.invent4, w.invent5, w.invent6};
+    c.inventStatusLbl = w.inventStatusLbl;
+    c.onlyInGameBox = w.onlyInGameBox;
+    c.pauseInChatBox = w.pauseInChatBox;
 
     // A pop-up changes a key only when the player picks from its list; the pick sends the
     // action, then the focus goes back to the table so that the arrow keys move through the
@@ -74,6 +78,8 @@ void MainWindow::connectController(ViewController& c) {
     connect(w.inventPopup, &PopUpButton::chosen, this, backToTable);
     connect(w.isShiftBox, &QCheckBox::clicked, &c, &ViewController::setInventoryKeyBox);
     connect(w.delBTN, &QPushButton::clicked, &c, &ViewController::eraseKey);
+    connect(w.onlyInGameBox, &QCheckBox::clicked, &c, &ViewController::setOnlyWhileGameInFront);
+    connect(w.pauseInChatBox, &QCheckBox::clicked, &c, &ViewController::setPauseWhileTypingInChat);
 }
 
 } // namespace tarnic

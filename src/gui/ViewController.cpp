@@ -5,6 +5,7 @@
 #include "core/editor/ExportText.h"
 #include "core/editor/GridLayout.h"
 #include "core/editor/InventoryBinding.h"
+#include "core/editor/InventoryStatus.h"
 #include "core/editor/KeyAssignment.h"
 #include "core/editor/SelectionDetail.h"
 #include "core/fatal/Fatal.h"
@@ -63,9 +64,10 @@ Alert importAlert(const QString& text, const QString& details, QMessageBox::Icon
 
 } // namespace
 
-ViewController::ViewController(QSettings& settings, QObject* parent)
+ViewController::ViewController(QSettings& settings, QSettings& options, QObject* parent)
     : QObject(parent), mainDic(all_data()), keyboardKeys(tarnic::keyboardKeys),
-      keyboardKeysNum(tarnic::keyboardKeysNum), defaults_(settings), tableModel_(mainDic) {
+      keyboardKeysNum(tarnic::keyboardKeysNum), defaults_(settings), options_(options),
+      tableModel_(mainDic) {
     initGuiResources();
 }
 
@@ -121,6 +123,20 @@ void ViewController::viewDidLoad() {
                     windowWillClose();
                 }
             });
+
+    // The slot buttons show the restored bindings, and the options what was stored (off on a
+    // first start).
+    for (int n = 1; n <= 6; ++n) {
+        showSlotTitle(n);
+    }
+    inventoryOptions = options_.inventoryOptions();
+    outlet(onlyInGameBox, "onlyInGameBox").setChecked(inventoryOptions.onlyWhileGameInFront);
+    outlet(pauseInChatBox, "pauseInChatBox").setChecked(inventoryOptions.pauseWhileTypingInChat);
+}
+
+void ViewController::showInventoryStatus(const AccessibilityTrust& trust) {
+    outlet(inventStatusLbl, "inventStatusLbl")
+        .setText(qs(inventoryStatusText(trust.isProcessTrusted(), trust.untrustedReason())));
 }
 
 void ViewController::viewDidAppear() {
@@ -300,6 +316,12 @@ Alert ViewController::importFrom(const QString& path) {
 
 // ---- Inventory keys ----
 
+void ViewController::showSlotTitle(int slot) {
+    const auto index = static_cast<std::size_t>(slot - 1);
+    outlet(inventButtons.at(index), "invent" + std::to_string(slot))
+        .setText(qs(slotTitle(slot, inventoryModels.at(index))));
+}
+
 void ViewController::invent(std::int64_t slot) {
     inventoryEditNow = slot;
     display(inventoryModels[static_cast<std::size_t>(slot - 1)]);
@@ -350,6 +372,7 @@ void ViewController::setInventory() {
         const auto slot = static_cast<int>(inventoryEditNow);
         inventoryModels[static_cast<std::size_t>(slot - 1)] = *binding;
         defaults_.setInventoryModel(slot, *binding);
+        showSlotTitle(slot);
     }
 }
 
@@ -365,7 +388,18 @@ void ViewController::eraseKey() {
         const auto slot = static_cast<int>(inventoryEditNow);
         InventoryModel().swap(inventoryModels[static_cast<std::size_t>(slot - 1)]);
         defaults_.removeInventoryModel(slot);
+        showSlotTitle(slot);
     }
+}
+
+void ViewController::setOnlyWhileGameInFront() {
+    inventoryOptions.onlyWhileGameInFront = outlet(onlyInGameBox, "onlyInGameBox").isChecked();
+    options_.setOnlyWhileGameInFront(inventoryOptions.onlyWhileGameInFront);
+}
+
+void ViewController::setPauseWhileTypingInChat() {
+    inventoryOptions.pauseWhileTypingInChat = outlet(pauseInChatBox, "pauseInChatBox").isChecked();
+    options_.setPauseWhileTypingInChat(inventoryOptions.pauseWhileTypingInChat);
 }
 
 } // namespace tarnic

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "core/platform/AccessibilityTrust.h"
 #include "core/record/AbilityRecord.h"
 #include "core/remapper/InventoryRemapper.h"
 #include "core/vocabulary/KeyCodes.h"
 #include "gui/AbilityTableModel.h"
 #include "gui/FileDialog.h"
 #include "shell/AlertPresenter.h"
+#include "store/ProgramOptions.h"
 #include "store/UserDefaults.h"
 
 #include <QCheckBox>
@@ -26,15 +28,17 @@
 namespace tarnic {
 
 // The controller of the main window. It owns all the state of the hotkey editor and the six slot
-// bindings of the inventory keys, with the working list of abilities and the export buffers. The
+// bindings of the inventory keys with their two options, the working list of abilities and the
+// export buffers. The
 // window owns the controls; the controller only points at them (the outlets below, set by the
 // window) and its actions are connected by the window. Watching keys is not its business: the
 // remapper session reads the bindings it keeps.
 class ViewController : public QObject {
     Q_OBJECT
 public:
-    // `settings` is the user defaults store; it must outlive the controller.
-    explicit ViewController(QSettings& settings, QObject* parent = nullptr);
+    // `settings` is the user defaults store and `options` the program's options file (see
+    // ProgramOptions); both must outlive the controller.
+    ViewController(QSettings& settings, QSettings& options, QObject* parent = nullptr);
     ~ViewController() override;
 
     // The whole text of the ":/defaultkeys" template, read when the view loads.
@@ -46,6 +50,9 @@ public:
     // inventoryModel1 .. inventoryModel6: the binding of each slot, empty while unbound. The
     // remapper reads this array on every key press, so a new binding is live at once.
     std::array<InventoryModel, 6> inventoryModels;
+    // The inventory keys' options, off until the view loads what was stored. The remapper reads
+    // them on every key press, so a change is live at once.
+    InventoryOptions inventoryOptions;
 
     // Outlets.
     QPointer<QPushButton> delBTN;
@@ -57,6 +64,12 @@ public:
     QPointer<QLabel> spellImage;
     QPointer<QLabel> parentImage;
     QPointer<QComboBox> inventPopup;
+    // The slot buttons invent1 .. invent6, titled with their bindings.
+    std::array<QPointer<QPushButton>, 6> inventButtons;
+    // Whether the inventory keys can work, under the slots.
+    QPointer<QLabel> inventStatusLbl;
+    QPointer<QCheckBox> onlyInGameBox;
+    QPointer<QCheckBox> pauseInChatBox;
 
     // The working list, one table row per record, in list order.
     std::vector<AbilityRecord> mainDic;
@@ -73,6 +86,8 @@ public:
     void viewDidLoad();
     // Runs when the window is shown: from then on closing the window ends the application.
     void viewDidAppear();
+    // Says under the slots whether the inventory keys can work, from the platform's trust.
+    void showInventoryStatus(const AccessibilityTrust& trust);
 
     // The file dialogs of the export and the import; tests answer them through here.
     FileDialog& fileDialog() { return fileDialog_; }
@@ -85,6 +100,9 @@ public:
     // Actions.
     void eraseKey();
     void setInventory();
+    // The two options' check boxes: each keeps and stores what its box shows.
+    void setOnlyWhileGameInFront();
+    void setPauseWhileTypingInChat();
     void setInventoryKeyBox();
     void setInventoryKey();
     void invent1();
@@ -116,6 +134,8 @@ protected:
 
 private:
     void invent(std::int64_t slot);
+    // Titles slot button `slot` (1 to 6) with its binding.
+    void showSlotTitle(int slot);
     // The selected row; a list position that is not there ends the program.
     std::size_t selectedIndex() const;
     void reloadData();
@@ -134,6 +154,7 @@ private:
     // What the store holds under "mainDic", as last written.
     std::vector<AbilityRecord> storedDic_;
     AlertPresenter* alerts_ = nullptr;
+    ProgramOptions options_;
     AbilityTableModel tableModel_;
     FileDialog fileDialog_;
     QPointer<QWidget> window_;

@@ -24,12 +24,16 @@ void EditorFixture::TearDown() {
 }
 
 void EditorFixture::launch() {
+    launch(makeFakePlatform());
+}
+
+void EditorFixture::launch(Platform platform) {
     shutDown();
     Application::Options options;
     options.siteUrl.clear();
     options.gameDetectionInterval = kTestTickInterval;
     options.alerts = &alerts_;
-    app_ = std::make_unique<Application>(makeFakePlatform(), options);
+    app_ = std::make_unique<Application>(std::move(platform), options);
     controls_ = std::make_unique<WindowControls>(app_->window());
     app_->start();
 }
@@ -58,6 +62,11 @@ std::optional<InventoryModel> EditorFixture::storedInventoryModel(int slot) cons
 bool EditorFixture::storeHasKey(const QString& key) const {
     QSettings settings(storePath(), plistSettingsFormat());
     return settings.contains(key);
+}
+
+QStringList EditorFixture::storeKeys() const {
+    QSettings settings(storePath(), plistSettingsFormat());
+    return settings.allKeys();
 }
 
 void EditorFixture::storeMainDic(const std::vector<AbilityRecord>& list) const {

@@ -36,6 +36,8 @@ protected:
 
     // Starts the application as main() does, on a fresh set of fakes.
     void launch();
+    // The same on `platform` (for example the null platform).
+    void launch(Platform platform);
     static constexpr std::chrono::milliseconds kTestTickInterval{20};
     // Ends this start (without quitting the test's application object).
     void shutDown();
@@ -44,6 +46,8 @@ protected:
     std::optional<std::vector<AbilityRecord>> storedMainDic() const;
     std::optional<InventoryModel> storedInventoryModel(int slot) const;
     bool storeHasKey(const QString& key) const;
+    // Every key the store file holds now.
+    QStringList storeKeys() const;
     // Writes values into the store before a start.
     void storeMainDic(const std::vector<AbilityRecord>& list) const;
     void storeInventoryModel(int slot, const InventoryModel& model) const;

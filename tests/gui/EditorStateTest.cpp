@@ -5,6 +5,7 @@
 #include "core/editor/RecordFactory.h"
 #include "core/vocabulary/KeyCodes.h"
 #include "gui/GuiResources.h"
+#include "store/ProgramOptions.h"
 
 #include <QApplication>
 #include <QDir>
@@ -25,7 +26,8 @@ class EditorState : public EditorFixture {};
 
 TEST_F(EditorState, InitialValuesBeforeTheViewLoads) {
     const std::unique_ptr<QSettings> settings = openUserDefaults();
-    ViewController controller(*settings);
+    const std::unique_ptr<QSettings> options = openProgramOptions();
+    ViewController controller(*settings, *options);
     EXPECT_EQ(controller.def_keys_bundle, "");
     EXPECT_EQ(controller.result, "");
     EXPECT_EQ(controller.inventoryEditNow, 0);
@@ -211,7 +213,8 @@ TEST_F(EditorStateDeathTest, BindingOfTheWrongTypeEndsTheProgram) {
 
 TEST_F(EditorStateDeathTest, UnconnectedOutletEndsTheProgram) {
     const std::unique_ptr<QSettings> settings = openUserDefaults();
-    ViewController controller(*settings);
+    const std::unique_ptr<QSettings> options = openProgramOptions();
+    ViewController controller(*settings, *options);
     EXPECT_DEATH(controller.viewDidLoad(),
                  "Unexpectedly found nil while implicitly unwrapping an Optional value: keysPopup");
 }

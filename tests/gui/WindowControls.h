@@ -34,6 +34,9 @@ struct WindowControls {
     QComboBox* inventPopup;
     QCheckBox* isShiftBox;
     QPushButton* delBTN;
+    QCheckBox* onlyInGameBox;
+    QCheckBox* pauseInChatBox;
+    QLabel* inventStatusLbl;
     QPushButton* exportButton;
     QLabel* clashLbl;
     QAction* actionImport;

@@ -109,17 +109,59 @@ TEST(FakeFrontmostApplication, StartsWithNoneAndReturnsWhatWasSet) {
 TEST(FakeAccessibilityTrust, TrustedUntilToldOtherwise) {
     FakeAccessibilityTrust trust;
     EXPECT_TRUE(trust.isProcessTrusted());
+    EXPECT_EQ(trust.untrustedReason(), UntrustedReason::Trusted);
     trust.setTrusted(false);
     EXPECT_FALSE(trust.isProcessTrusted());
+    EXPECT_EQ(trust.untrustedReason(), UntrustedReason::RecordingRefused);
+    trust.setUntrusted(UntrustedReason::NoKeyRecording);
+    EXPECT_FALSE(trust.isProcessTrusted());
+    EXPECT_EQ(trust.untrustedReason(), UntrustedReason::NoKeyRecording);
+    trust.setTrusted(true);
+    EXPECT_EQ(trust.untrustedReason(), UntrustedReason::Trusted);
 }
 
-TEST(FakePlatform, HoldsAllFourFakesAndHandsThemOut) {
+TEST(FakeFrontmostWatcher, TellsEveryHandlerOfEachRealChange) {
+    FakeFrontmostWatcher watcher;
+    std::vector<std::string> seen;
+    watcher.addChangeMonitor([&](const std::optional<std::string>& identifier) {
+        seen.push_back(identifier.value_or("none"));
+    });
+    EXPECT_EQ(watcher.frontmostIdentifier(), std::nullopt);
+    watcher.announce("a.exe");
+    watcher.announce("a.exe"); // no change: not told
+    watcher.announce(std::nullopt);
+    EXPECT_EQ(seen, (Posts{"a.exe", "none"}));
+    EXPECT_EQ(watcher.frontmostIdentifier(), std::nullopt);
+}
+
+TEST(FakeFrontmostWatcher, UnreadAnnouncementsWaitUntilTakenIn) {
+    FakeFrontmostWatcher watcher;
+    std::vector<std::string> seen;
+    watcher.addChangeMonitor([&](const std::optional<std::string>& identifier) {
+        seen.push_back(identifier.value_or("none"));
+    });
+    watcher.announceUnread("a.exe");
+    watcher.announceUnread("b.exe");
+    EXPECT_EQ(watcher.frontmostIdentifier(), std::nullopt);
+    EXPECT_TRUE(seen.empty());
+    watcher.takeInChanges();
+    EXPECT_EQ(seen, (Posts{"a.exe", "b.exe"}));
+    EXPECT_EQ(watcher.frontmostIdentifier(), "b.exe");
+    watcher.takeInChanges();
+    EXPECT_EQ(seen.size(), 2U);
+    EXPECT_EQ(watcher.takeInCount(), 2U);
+}
+
+TEST(FakePlatform, HoldsAllFiveFakesAndHandsThemOut) {
     Platform platform = makeFakePlatform();
     const FakeParts fakes = fakeParts(platform);
     ASSERT_NE(fakes.keyObserver, nullptr);
     ASSERT_NE(fakes.keyPoster, nullptr);
     ASSERT_NE(fakes.frontmostApplication, nullptr);
     ASSERT_NE(fakes.accessibilityTrust, nullptr);
+    ASSERT_NE(fakes.frontmostWatcher, nullptr);
+    EXPECT_EQ(fakes.frontmostWatcher, platform.frontmostWatcher.get());
+    EXPECT_EQ(platform.frontmostWatcher->frontmostIdentifier(), std::nullopt);
     EXPECT_EQ(fakes.keyObserver, platform.keyObserver.get());
     EXPECT_EQ(fakes.keyPoster, platform.keyPoster.get());
     EXPECT_TRUE(platform.accessibilityTrust->isProcessTrusted());

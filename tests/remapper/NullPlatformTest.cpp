@@ -9,18 +9,24 @@
 namespace tarnic {
 namespace {
 
-TEST(NullPlatform, IsUntrustedObservesNothingAndKnowsNoFrontmostApplication) {
+TEST(NullPlatform, IsUntrustedForWantOfAServerObservesNothingAndKnowsNoFrontmostApplication) {
     Platform platform = makeNullPlatform();
     ASSERT_NE(platform.keyObserver, nullptr);
     ASSERT_NE(platform.keyPoster, nullptr);
     ASSERT_NE(platform.frontmostApplication, nullptr);
     ASSERT_NE(platform.accessibilityTrust, nullptr);
+    ASSERT_NE(platform.frontmostWatcher, nullptr);
     EXPECT_FALSE(platform.accessibilityTrust->isProcessTrusted());
+    EXPECT_EQ(platform.accessibilityTrust->untrustedReason(), UntrustedReason::NoDisplayServer);
     EXPECT_EQ(platform.frontmostApplication->bundleIdentifier(), std::nullopt);
-    // Handlers may be installed and keys posted; neither does anything.
+    EXPECT_EQ(platform.frontmostWatcher->frontmostIdentifier(), std::nullopt);
+    // Handlers may be installed, changes taken in and keys posted; none of it does anything.
     int calls = 0;
     platform.keyObserver->addKeyDownMonitor([&calls](int) { ++calls; });
     platform.keyObserver->addFlagsChangedMonitor([&calls](int) { ++calls; });
+    platform.frontmostWatcher->addChangeMonitor(
+        [&calls](const std::optional<std::string>&) { ++calls; });
+    platform.frontmostWatcher->takeInChanges();
     platform.keyPoster->postKeyDown(89);
     platform.keyPoster->postKeyUp(89);
     EXPECT_EQ(calls, 0);
@@ -34,6 +40,7 @@ TEST(MakePlatform, WithoutAnXServerTheProgramRunsUntrusted) {
     const std::string said = testing::internal::GetCapturedStderr();
     ASSERT_NE(platform.accessibilityTrust, nullptr);
     EXPECT_FALSE(platform.accessibilityTrust->isProcessTrusted());
+    EXPECT_EQ(platform.accessibilityTrust->untrustedReason(), UntrustedReason::NoDisplayServer);
     EXPECT_EQ(platform.frontmostApplication->bundleIdentifier(), std::nullopt);
     EXPECT_NE(said.find("no X server"), std::string::npos) << said;
 }

@@ -39,6 +39,27 @@ TEST(ScenarioParser, ReadsEventsThenTheTranscript) {
     EXPECT_EQ(scenario.expected, (Lines{"91 down", "91 up"}));
 }
 
+TEST(ScenarioParser, ReadsTheOptionsAndTheWindowEvents) {
+    Scenario scenario;
+    std::string error;
+    ASSERT_TRUE(parseScenario("option game-in-front on\noption pause-in-chat off\n"
+                              "front-unread com.example.App\nfront-unread none\nfocus-state\n",
+                              scenario, error))
+        << error;
+    ASSERT_EQ(scenario.steps.size(), 5U);
+    using Kind = ScenarioStep::Kind;
+    EXPECT_EQ(scenario.steps[0].kind, Kind::Option);
+    EXPECT_EQ(scenario.steps[0].identifier, "game-in-front");
+    EXPECT_TRUE(scenario.steps[0].on);
+    EXPECT_EQ(scenario.steps[1].identifier, "pause-in-chat");
+    EXPECT_FALSE(scenario.steps[1].on);
+    EXPECT_EQ(scenario.steps[2].kind, Kind::FrontUnread);
+    EXPECT_EQ(scenario.steps[2].identifier, "com.example.App");
+    EXPECT_TRUE(scenario.steps[2].hasIdentifier);
+    EXPECT_FALSE(scenario.steps[3].hasIdentifier);
+    EXPECT_EQ(scenario.steps[4].kind, Kind::FocusState);
+}
+
 TEST(ScenarioParser, EmptyListUnbindsASlot) {
     Scenario scenario;
     std::string error;
@@ -62,6 +83,11 @@ TEST(ScenarioParser, RejectsWhatItCannotRead) {
         "tick now\n",
         "front\n",
         "state 1\n",
+        "option chat on\n",
+        "option pause-in-chat\n",
+        "option game-in-front yes\n",
+        "front-unread\n",
+        "focus-state now\n",
         "\n# nothing\n",
         "",
     };
@@ -95,6 +121,18 @@ TEST(ScenarioRunner, InterleavesPostsAndStateInOrder) {
     EXPECT_EQ(runScenario(scenario),
               (Lines{"state flagHold=-1 isFlag=false isWarRun=false", "89 down", "89 up",
                      "state flagHold=56 isFlag=true isWarRun=false"}));
+}
+
+TEST(ScenarioRunner, OptionsStartOffAndTheFocusStateIsWritten) {
+    Scenario scenario;
+    std::string error;
+    ASSERT_TRUE(parseScenario("model 1 = [1, 0, 12]\nfocus-state\ndown 12\n"
+                              "option game-in-front on\ndown 12\nfront com.blizzard.WarcraftIII\n"
+                              "focus-state\n",
+                              scenario, error));
+    EXPECT_EQ(runScenario(scenario),
+              (Lines{"focus-state gameInFront=false chatOpen=false", "89 down", "89 up",
+                     "focus-state gameInFront=true chatOpen=false"}));
 }
 
 TEST(LineDiff, EmptyWhenEqual) {

@@ -114,13 +114,22 @@ std::string parseStep(const std::string& line, ScenarioStep& step) {
     if (verb == "slot") {
         return oneNumber(Kind::Slot);
     }
-    if (verb == "front") {
-        step.kind = Kind::Front;
+    if (verb == "front" || verb == "front-unread") {
+        step.kind = verb == "front" ? Kind::Front : Kind::FrontUnread;
         if (w.size() != 2) {
-            return "\"front\" takes an identifier or none";
+            return "\"" + verb + "\" takes an identifier or none";
         }
         step.hasIdentifier = w[1] != "none";
         step.identifier = step.hasIdentifier ? w[1] : std::string();
+        return {};
+    }
+    if (verb == "option") {
+        step.kind = Kind::Option;
+        if (w.size() != 3 || (w[1] != "game-in-front" && w[1] != "pause-in-chat") ||
+            !parseOnOff(w[2], step.on)) {
+            return "expected \"option game-in-front|pause-in-chat on|off\"";
+        }
+        step.identifier = w[1];
         return {};
     }
     if (verb == "own-window") {
@@ -137,6 +146,9 @@ std::string parseStep(const std::string& line, ScenarioStep& step) {
     }
     if (verb == "state") {
         return bare(Kind::State);
+    }
+    if (verb == "focus-state") {
+        return bare(Kind::FocusState);
     }
     return "unknown event \"" + verb + "\"";
 }

@@ -13,6 +13,15 @@ std::string stateLine(const InventoryRemapper& remapper) {
            " isWarRun=" + (remapper.isWarRun ? "true" : "false");
 }
 
+std::string focusStateLine(const InventoryRemapper& remapper) {
+    return std::string("focus-state gameInFront=") + (remapper.gameInFront ? "true" : "false") +
+           " chatOpen=" + (remapper.chatOpen ? "true" : "false");
+}
+
+std::optional<std::string> identifierOf(const ScenarioStep& step) {
+    return step.hasIdentifier ? std::optional<std::string>(step.identifier) : std::nullopt;
+}
+
 } // namespace
 
 std::vector<std::string> runScenario(const Scenario& scenario) {
@@ -20,7 +29,8 @@ std::vector<std::string> runScenario(const Scenario& scenario) {
     Platform platform = makeFakePlatform();
     const FakeParts fakes = fakeParts(platform);
     InventoryRemapper::Models models;
-    RemapperSession session(models, platform);
+    InventoryOptions options;
+    RemapperSession session(models, options, platform);
     session.installObservers();
 
     std::vector<std::string> transcript;
@@ -37,8 +47,17 @@ std::vector<std::string> runScenario(const Scenario& scenario) {
             fakes.keyObserver->changeModifier(static_cast<int>(step.number));
             break;
         case Kind::Front:
-            fakes.frontmostApplication->setBundleIdentifier(
-                step.hasIdentifier ? std::optional<std::string>(step.identifier) : std::nullopt);
+            // One window manager property answers both: the timer's question and the watcher.
+            fakes.frontmostApplication->setBundleIdentifier(identifierOf(step));
+            fakes.frontmostWatcher->announce(identifierOf(step));
+            break;
+        case Kind::FrontUnread:
+            fakes.frontmostApplication->setBundleIdentifier(identifierOf(step));
+            fakes.frontmostWatcher->announceUnread(identifierOf(step));
+            break;
+        case Kind::Option:
+            (step.identifier == "game-in-front" ? options.onlyWhileGameInFront
+                                                : options.pauseWhileTypingInChat) = step.on;
             break;
         case Kind::Tick:
             session.eventWithTimer();
@@ -56,6 +75,7 @@ std::vector<std::string> runScenario(const Scenario& scenario) {
             session.remapper().inventoryPress(step.number);
             break;
         case Kind::State:
+        case Kind::FocusState:
             break;
         }
         // The posts this step caused, then (for "state") the state after it.
@@ -65,6 +85,9 @@ std::vector<std::string> runScenario(const Scenario& scenario) {
         postsSeen = posts.size();
         if (step.kind == Kind::State) {
             transcript.push_back(stateLine(session.remapper()));
+        }
+        if (step.kind == Kind::FocusState) {
+            transcript.push_back(focusStateLine(session.remapper()));
         }
     }
     return transcript;

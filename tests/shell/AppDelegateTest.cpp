@@ -30,6 +30,9 @@ public:
         log_.push_back("trust");
         return answer_;
     }
+    UntrustedReason untrustedReason() const override {
+        return answer_ ? UntrustedReason::Trusted : UntrustedReason::RecordingRefused;
+    }
 
 private:
     bool answer_;

@@ -1,6 +1,8 @@
 // The backend's parts against a real X server (Xvfb), in this process.
 #include "core/remapper/InventoryRemapper.h"
 #include "core/vocabulary/KeyCodes.h"
+#include "platform/x11/X11Connection.h"
+#include "platform/x11/X11FrontmostWatcher.h"
 #include "platform/x11/X11Platform.h"
 #include "support/KeyLogLine.h"
 #include "support/KeymapProbe.h"
@@ -15,8 +17,12 @@
 #include <gtest/gtest.h>
 #include <linux/input-event-codes.h>
 
+#include <poll.h>
 #include <string>
 #include <vector>
+
+// Last: Xlib's macros (None, Bool) break the headers above.
+#include <X11/Xlib.h>
 
 namespace tarnic {
 namespace {
@@ -228,6 +234,17 @@ TEST_F(X11BackendTest, NoFrontmostApplicationWithoutAWindowManager) {
     LineProcess log;
     startKeyLog(log, "war3.exe");
     EXPECT_FALSE(platform->frontmostApplication->bundleIdentifier().has_value());
+    testing::processUntil([] { return false; }, 200ms);
+    EXPECT_FALSE(platform->frontmostWatcher->frontmostIdentifier().has_value());
+}
+
+TEST_F(X11BackendTest, UntrustedForWantOfRecordTheReasonSaysSo) {
+    EXPECT_EQ(platform->accessibilityTrust->untrustedReason(), UntrustedReason::Trusted);
+    XvfbSession bare(false, {"-extension", "RECORD"});
+    ASSERT_TRUE(bare.ok()) << bare.error().toStdString();
+    std::optional<Platform> without = makeX11Platform(bare.display().toLocal8Bit().constData());
+    ASSERT_TRUE(without.has_value());
+    EXPECT_EQ(without->accessibilityTrust->untrustedReason(), UntrustedReason::NoKeyRecording);
 }
 
 class X11BackendWithWindowManagerTest : public ::testing::Test {
@@ -257,6 +274,120 @@ TEST_F(X11BackendWithWindowManagerTest, FrontmostApplicationIsTheActiveWindowsCl
     EXPECT_TRUE(processUntil(
         [&] { return platform->frontmostApplication->bundleIdentifier() == "notepad.exe"; }, 2s));
     EXPECT_EQ(platform->frontmostApplication->bundleIdentifier(), "notepad.exe");
+}
+
+// The watcher behind "Only while the game is in front" and the chat line: it learns of each new
+// active window from the root window's property-change events and keeps the answer, so that the
+// key-down path can ask at every key press without a request to the server.
+class X11FrontmostWatcherTest : public X11BackendWithWindowManagerTest {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(server.ok()) << server.error().toStdString();
+        displayName = server.display().toLocal8Bit();
+        connection = x11::X11Connection::open(displayName.constData());
+        ASSERT_TRUE(connection);
+        watcher = std::make_unique<x11::X11FrontmostWatcher>(connection);
+        watcher->addChangeMonitor([this](const std::optional<std::string>& identifier) {
+            changes.push_back(identifier.value_or("none"));
+        });
+        ASSERT_TRUE(game.start(TARNIC_KEYLOG_PATH, {"--class", "war3.exe"}, server.environment()));
+        ASSERT_TRUE(
+            editor.start(TARNIC_KEYLOG_PATH, {"--class", "notepad.exe"}, server.environment()));
+        const int gameReady = game.waitForPrefix("ready ", 0, 10s);
+        const int editorReady = editor.waitForPrefix("ready ", 0, 10s);
+        ASSERT_GE(gameReady, 0) << game.transcript().toStdString();
+        ASSERT_GE(editorReady, 0) << editor.transcript().toStdString();
+        gameWindow = game.lines()[gameReady].section(' ', 1).toULong();
+        editorWindow = editor.lines()[editorReady].section(' ', 1).toULong();
+    }
+
+    // The serial number of the next request on the watcher's connection: it moves with every
+    // request sent, round trip or not.
+    unsigned long nextRequest() { return NextRequest(connection->display()); }
+
+    // Waits, without running the event loop, until the watcher's connection has something to
+    // read.
+    bool eventArrives(std::chrono::milliseconds timeout) {
+        pollfd descriptor{ConnectionNumber(connection->display()), POLLIN, 0};
+        return poll(&descriptor, 1, static_cast<int>(timeout.count())) > 0;
+    }
+
+    QByteArray displayName;
+    std::shared_ptr<x11::X11Connection> connection;
+    std::unique_ptr<x11::X11FrontmostWatcher> watcher;
+    std::vector<std::string> changes;
+    LineProcess game;
+    LineProcess editor;
+    unsigned long gameWindow = 0;
+    unsigned long editorWindow = 0;
+};
+
+TEST_F(X11FrontmostWatcherTest, FollowsTheActiveWindowFromEventsAlone) {
+    ASSERT_TRUE(driver.focus(gameWindow, 5s));
+    // Only the event loop runs here; reading the answer asks the server nothing.
+    EXPECT_TRUE(processUntil([&] { return watcher->frontmostIdentifier() == war3ID; }, 2s));
+    ASSERT_TRUE(driver.focus(editorWindow, 5s));
+    EXPECT_TRUE(processUntil([&] { return watcher->frontmostIdentifier() == "notepad.exe"; }, 2s));
+    ASSERT_TRUE(driver.focus(gameWindow, 5s));
+    EXPECT_TRUE(processUntil([&] { return watcher->frontmostIdentifier() == war3ID; }, 2s));
+    EXPECT_EQ(changes, (std::vector<std::string>{war3ID, "notepad.exe", war3ID}));
+}
+
+TEST_F(X11FrontmostWatcherTest, AskingAndTakingInWithNothingNewSendNoRequest) {
+    ASSERT_TRUE(driver.focus(gameWindow, 5s));
+    ASSERT_TRUE(processUntil([&] { return watcher->frontmostIdentifier() == war3ID; }, 2s));
+    // Whatever else the window manager still had to say about the change is read first.
+    processUntil([] { return false; }, 300ms);
+
+    // What the key-down path does at every key press while an option is on.
+    const unsigned long before = nextRequest();
+    for (int press = 0; press < 200; ++press) {
+        watcher->takeInChanges();
+        ASSERT_EQ(watcher->frontmostIdentifier(), war3ID);
+    }
+    EXPECT_EQ(nextRequest(), before) << "a key press sent a request to the X server";
+}
+
+TEST_F(X11FrontmostWatcherTest, AChangeThatArrivedUnreadIsTakenInBeforeTheAnswer) {
+    ASSERT_TRUE(driver.focus(editorWindow, 5s));
+    ASSERT_TRUE(processUntil([&] { return watcher->frontmostIdentifier() == "notepad.exe"; }, 2s));
+    processUntil([] { return false; }, 300ms);
+
+    ASSERT_TRUE(driver.focus(gameWindow, 5s));
+    // The event loop does not run: the announcement waits on the socket, as it may when a key
+    // goes down the instant after the switch.
+    const auto deadline = std::chrono::steady_clock::now() + 5s;
+    while (watcher->frontmostIdentifier() != war3ID &&
+           std::chrono::steady_clock::now() < deadline) {
+        ASSERT_TRUE(eventArrives(2s));
+        watcher->takeInChanges();
+    }
+    EXPECT_EQ(watcher->frontmostIdentifier(), war3ID);
+}
+
+TEST_F(X11FrontmostWatcherTest, ThePlatformHasOneOnItsMainConnection) {
+    std::optional<Platform> platform = makeX11Platform(displayName.constData());
+    ASSERT_TRUE(platform.has_value());
+    ASSERT_NE(platform->frontmostWatcher, nullptr);
+    ASSERT_TRUE(driver.focus(gameWindow, 5s));
+    EXPECT_TRUE(processUntil(
+        [&] { return platform->frontmostWatcher->frontmostIdentifier() == war3ID; }, 2s));
+    ASSERT_TRUE(driver.focus(editorWindow, 5s));
+    EXPECT_TRUE(processUntil(
+        [&] { return platform->frontmostWatcher->frontmostIdentifier() == "notepad.exe"; }, 2s));
+
+    // The keypad keycodes listen on the same connection: a keymap that takes one of them away is
+    // still noticed and the digit claimed again, and the watcher still follows the focus.
+    KeymapProbe probe(server.display());
+    ASSERT_TRUE(probe.ok());
+    const std::vector<unsigned> claimed = probe.recordedKeycodes();
+    ASSERT_EQ(claimed.size(), 6u);
+    probe.setKeysyms(claimed[0], {});
+    EXPECT_TRUE(processUntil(
+        [&] { return probe.keycodesWithOnly(kSlotKeypadKeysyms[0]).size() == 1; }, 5s));
+    ASSERT_TRUE(driver.focus(gameWindow, 5s));
+    EXPECT_TRUE(processUntil(
+        [&] { return platform->frontmostWatcher->frontmostIdentifier() == war3ID; }, 2s));
 }
 
 } // namespace

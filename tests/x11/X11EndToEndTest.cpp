@@ -249,6 +249,87 @@ TEST_F(X11EndToEndTest, GameFlagFollowsTheFocusedWindowsClass) {
     EXPECT_LE(std::chrono::steady_clock::now() - focused, 2500ms);
 }
 
+TEST_F(X11EndToEndTest, OnlyWhileTheGameIsInFrontTapsOnlyWhileTheGamesWindowIsActive) {
+    // The game-detection timer is kept out of it: it would first tick after ten minutes.
+    startHarness({"--bind", "1,0,12", "--only-game-in-front", "--timer-ms", "600000"});
+    LineProcess game;
+    const unsigned long gameWindow = startClient(game, "war3.exe");
+    ASSERT_NE(gameWindow, 0u);
+    const auto transcriptsWithGame = [&] {
+        return transcripts() + "\ngame:\n" + game.transcript().toStdString();
+    };
+
+    // The game in front: the bound key taps into it.
+    int front = harness.lines().size();
+    ASSERT_TRUE(driver.focus(gameWindow, 5s));
+    ASSERT_GE(harness.waitForLine("front com.blizzard.WarcraftIII", front, 5s), 0)
+        << transcriptsWithGame();
+    driver.tap(x(KEY_Q));
+    const int down = waitForKey(game, true, keypad[0], 0);
+    ASSERT_GE(down, 0) << transcriptsWithGame();
+    ASSERT_GE(waitForKey(game, false, keypad[0], down), 0) << transcriptsWithGame();
+
+    // Another program in front: the same key taps nothing.
+    front = harness.lines().size();
+    ASSERT_TRUE(driver.focus(clientWindow, 5s));
+    ASSERT_GE(harness.waitForLine("front keylog", front, 5s), 0) << transcriptsWithGame();
+    driver.tap(x(KEY_Q));
+    settleWith(x(KEY_SPACE), 49);
+    EXPECT_EQ(countKey(client, true, x(KEY_Q)), 1) << "the key itself still reaches the program";
+    EXPECT_EQ(countKey(client, true, keypad[0]), 0) << transcriptsWithGame();
+
+    // The game in front again: it taps again.
+    front = harness.lines().size();
+    ASSERT_TRUE(driver.focus(gameWindow, 5s));
+    ASSERT_GE(harness.waitForLine("front com.blizzard.WarcraftIII", front, 5s), 0)
+        << transcriptsWithGame();
+    const int from = game.lines().size();
+    driver.tap(x(KEY_Q));
+    ASSERT_GE(waitForKey(game, true, keypad[0], from), 0) << transcriptsWithGame();
+    const int firstUp = harness.waitForLine("posted up 89", 0, 5s);
+    ASSERT_GE(harness.waitForLine("posted up 89", firstUp + 1, 5s), 0) << transcriptsWithGame();
+
+    EXPECT_EQ(harnessLines({"observed down 12", "posted"}),
+              QStringList({"observed down 12", "posted down 89", "posted up 89", "observed down 12",
+                           "observed down 12", "posted down 89", "posted up 89"}))
+        << transcriptsWithGame();
+    EXPECT_TRUE(harnessLines({"isWarRun"}).isEmpty()) << "the timer had no part in it";
+}
+
+TEST_F(X11EndToEndTest, PauseWhileTypingInChatHoldsTheTapsBetweenTheGamesEnterKeys) {
+    startHarness({"--bind", "1,0,12", "--pause-in-chat", "--timer-ms", "600000"});
+    LineProcess game;
+    const unsigned long gameWindow = startClient(game, "war3.exe");
+    ASSERT_NE(gameWindow, 0u);
+    const int front = harness.lines().size();
+    ASSERT_TRUE(driver.focus(gameWindow, 5s));
+    ASSERT_GE(harness.waitForLine("front com.blizzard.WarcraftIII", front, 5s), 0) << transcripts();
+
+    driver.tap(x(KEY_ENTER));   // opens the chat line
+    driver.tap(x(KEY_Q));       // typed into it: no tap
+    driver.tap(x(KEY_KPENTER)); // sends it
+    driver.tap(x(KEY_Q));       // taps
+    driver.press(x(KEY_LEFTSHIFT));
+    driver.tap(x(KEY_ENTER)); // Shift+Return opens the line again
+    driver.release(x(KEY_LEFTSHIFT));
+    driver.tap(x(KEY_Q));   // no tap
+    driver.tap(x(KEY_ESC)); // closes it unsent
+    driver.tap(x(KEY_Q));   // taps
+    // Once the second tap is out, every key before it has been decided.
+    int ups = -1;
+    for (int seen = 0; seen < 2; ++seen) {
+        ups = harness.waitForLine("posted up 89", ups + 1, 5s);
+        ASSERT_GE(ups, 0) << transcripts();
+    }
+
+    EXPECT_EQ(
+        harnessLines({"observed down", "posted"}),
+        QStringList({"observed down 36", "observed down 12", "observed down 76", "observed down 12",
+                     "posted down 89", "posted up 89", "observed down 36", "observed down 12",
+                     "observed down 53", "observed down 12", "posted down 89", "posted up 89"}))
+        << transcripts();
+}
+
 } // namespace
 } // namespace tarnic
 

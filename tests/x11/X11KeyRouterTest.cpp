@@ -34,6 +34,15 @@ TEST_F(X11KeyRouterTest, KeyPressesAreKeyDownsInMacCodes) {
     EXPECT_EQ(seen, (std::vector<std::string>{"down 12", "down 12", "down 89"}));
 }
 
+TEST_F(X11KeyRouterTest, TheChatLinesKeysAreKeyDownsToo) {
+    // Return, keypad Enter and Escape open, send and close the game's chat line.
+    router.keyPressed(x(KEY_ENTER));
+    router.keyPressed(x(KEY_KPENTER));
+    router.keyPressed(x(KEY_ESC));
+    router.keyReleased(x(KEY_ENTER));
+    EXPECT_EQ(seen, (std::vector<std::string>{"down 36", "down 76", "down 53"}));
+}
+
 TEST_F(X11KeyRouterTest, OrdinaryReleasesAreDropped) {
     router.keyReleased(x(KEY_Q));
     router.keyReleased(x(KEY_KP7));

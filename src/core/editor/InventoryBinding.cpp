@@ -43,4 +43,20 @@ std::optional<InventoryModel> bindingFrom(std::int64_t editing, std::string_view
     return InventoryModel{editing, modifier, key};
 }
 
+std::string slotTitle(int slot, const InventoryModel& model) {
+    std::string title = "Slot " + std::to_string(slot) + "  ";
+    if (model.empty()) {
+        return title + "none";
+    }
+    if (model.size() < 3) {
+        return title + "(damaged)";
+    }
+    const InventoryDisplay shown = displayOf(model);
+    if (shown.shift) {
+        title += "Shift+";
+    }
+    // The pop-up shows "Select" exactly for a code without a label.
+    return title + (shown.title == select ? std::string("(no key)") : shown.title);
+}
+
 } // namespace tarnic

@@ -33,4 +33,13 @@ std::int64_t triggerCodeOf(std::string_view title);
 // Any other slot (0: none chosen yet) gives nothing to keep.
 std::optional<InventoryModel> bindingFrom(std::int64_t editing, std::string_view title, bool shift);
 
+// The title of slot button `slot` for the slot's binding, two spaces between the two parts:
+// "Slot 1  Z", "Slot 1  Shift+Z" (any modifier but 0, as the Shift box shows it), "Slot 1  none"
+// while unbound, and "Slot 1  (no key)" or "Slot 1  Shift+(no key)" for a binding that names no
+// key of the key table ("Select" was picked): bound, but no key press can match it. A non-empty
+// model shorter than three elements (only a store edited by hand holds one) shows
+// "Slot 1  (damaged)": the titles are made at start-up, which such a model must not end; showing
+// it in the panel, or testing it at a key press, still does.
+std::string slotTitle(int slot, const InventoryModel& model);
+
 } // namespace tarnic

@@ -2,6 +2,7 @@
 
 #include "core/platform/AccessibilityTrust.h"
 #include "core/platform/FrontmostApplication.h"
+#include "core/platform/FrontmostWatcher.h"
 #include "core/platform/KeyObserver.h"
 #include "core/platform/KeyPoster.h"
 
@@ -16,6 +17,9 @@ struct Platform {
     std::unique_ptr<KeyPoster> keyPoster;
     std::unique_ptr<FrontmostApplication> frontmostApplication;
     std::unique_ptr<AccessibilityTrust> accessibilityTrust;
+    // The frontmost application as the desktop announces it, for the inventory options that
+    // depend on the window in front at the moment of a key press.
+    std::unique_ptr<FrontmostWatcher> frontmostWatcher;
 };
 
 } // namespace tarnic

@@ -20,13 +20,50 @@ std::int64_t element(const InventoryModel& model, std::size_t index) {
 }
 } // namespace
 
-InventoryRemapper::InventoryRemapper(const Models& inventoryModels, KeyPoster& poster)
-    : inventoryModels_(inventoryModels), poster_(poster) {}
+InventoryRemapper::InventoryRemapper(const Models& inventoryModels, KeyPoster& poster,
+                                     const InventoryOptions& options)
+    : inventoryModels_(inventoryModels), poster_(poster), options_(options) {}
 
 void InventoryRemapper::keyDown(int keyCode) {
-    // Every binding is tested, so one press may tap several slots, in slot order.
-    for (const InventoryModel& model : inventoryModels_) {
-        action(model, keyCode);
+    if (tapsAllowed()) {
+        // Every binding is tested, so one press may tap several slots, in slot order.
+        for (const InventoryModel& model : inventoryModels_) {
+            action(model, keyCode);
+        }
+    }
+    followChatLine(keyCode);
+}
+
+bool InventoryRemapper::tapsAllowed() const {
+    if (options_.onlyWhileGameInFront && !gameInFront) {
+        return false;
+    }
+    return !(options_.pauseWhileTypingInChat && chatOpen);
+}
+
+bool InventoryRemapper::needsFrontmostAtKeyPress() const {
+    return options_.onlyWhileGameInFront || options_.pauseWhileTypingInChat;
+}
+
+void InventoryRemapper::followChatLine(int keyCode) {
+    // The chat line belongs to the game's window: Enter typed into another program opens nothing.
+    if (!gameInFront) {
+        return;
+    }
+    if (keyCode == kReturnKeyCode || keyCode == kKeypadEnterKeyCode) {
+        chatOpen = !chatOpen;
+    } else if (keyCode == kEscapeKeyCode) {
+        chatOpen = false;
+    }
+}
+
+void InventoryRemapper::frontmostChanged(const std::optional<std::string>& identifier) {
+    gameInFront = identifier.has_value() && *identifier == war3ID;
+    if (!gameInFront) {
+        // What happens to the chat line while the game is away (a click into it on the way
+        // back, keys we never see) cannot be followed. Counting from closed again errs on the
+        // safe side: a line wrongly taken for open would silence every bound key.
+        chatOpen = false;
     }
 }
 

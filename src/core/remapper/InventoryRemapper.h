@@ -5,6 +5,8 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace tarnic {
@@ -13,6 +15,24 @@ namespace tarnic {
 // trigger key code (-1 none)].
 using InventoryModel = std::vector<std::int64_t>;
 
+// The player's two options for the inventory keys. Both start off, and with both off a bound key
+// taps whatever application is in front.
+struct InventoryOptions {
+    // A bound key taps only while a window of the game is the frontmost one at the moment of
+    // the key press.
+    bool onlyWhileGameInFront = false;
+    // No bound key taps while the game's chat line is open (see InventoryRemapper::chatOpen).
+    bool pauseWhileTypingInChat = false;
+};
+
+// Both options off: what a remapper without options of its own reads.
+inline constexpr InventoryOptions kInventoryOptionsOff{};
+
+// The keys that open, send and close the game's chat line.
+inline constexpr int kReturnKeyCode = 36;
+inline constexpr int kKeypadEnterKeyCode = 76;
+inline constexpr int kEscapeKeyCode = 53;
+
 // Decides, for every key pressed in another application, which inventory slots it stands for,
 // and taps each slot's keypad key through the poster. Plain logic: the observer feeds it, the
 // poster types for it.
@@ -20,9 +40,11 @@ class InventoryRemapper {
 public:
     using Models = std::array<InventoryModel, 6>;
 
-    // `inventoryModels` are inventoryModel1 .. inventoryModel6, owned by the editor's controller
-    // and read afresh on every key press, so an edit takes effect on the next press.
-    InventoryRemapper(const Models& inventoryModels, KeyPoster& poster);
+    // `inventoryModels` are inventoryModel1 .. inventoryModel6, and `options` the player's
+    // options, both owned by the editor's controller and read afresh on every key press, so an
+    // edit takes effect on the next press.
+    InventoryRemapper(const Models& inventoryModels, KeyPoster& poster,
+                      const InventoryOptions& options = kInventoryOptionsOff);
 
     // Key code of the most recent modifier change, and a parity bit flipped by every change.
     std::int64_t flagHold = -1;
@@ -30,8 +52,28 @@ public:
     // Whether the game is the frontmost application; refreshed by the timer, read by nobody.
     bool isWarRun = false;
 
-    void keyDown(int keyCode);      // the key-down handler
+    // Whether a window of the game is in front, as the desktop last announced (frontmostChanged),
+    // so a key press asks nobody. The options read it; the 2-second timer has no part in it.
+    bool gameInFront = false;
+    // Whether the game's chat line is taken to be open. A guess from the keys: Return or keypad
+    // Enter (Shift or not) opens the line and the next one sends it, Escape closes it; only keys
+    // pressed while the game is in front count, and the line counts as closed again as soon as
+    // the game is no longer in front. Kept whatever the options say; only
+    // pauseWhileTypingInChat reads it.
+    bool chatOpen = false;
+
+    // The key-down handler. The decision for the key is made first, with the chat line as it was
+    // before the key, and only then does the key move the chat line: the Enter that opens the
+    // line is judged with the line closed, the one that sends it with the line open.
+    void keyDown(int keyCode);
     void flagsChanged(int keyCode); // the modifier-change handler
+    // The frontmost application changed (its identifier, or none).
+    void frontmostChanged(const std::optional<std::string>& identifier);
+    // Whether a key press needs the frontmost application as of that very moment: only while one
+    // of the options is on.
+    bool needsFrontmostAtKeyPress() const;
+    // Whether, with the options as they are, a bound key may tap now.
+    bool tapsAllowed() const;
     void action(const InventoryModel& model, int keyPrss);
     void eventWithTimer(const FrontmostApplication& frontmost);
 
@@ -42,8 +84,11 @@ public:
     void keyboardKeyUp(std::uint16_t key);
 
 private:
+    void followChatLine(int keyCode);
+
     const Models& inventoryModels_;
     KeyPoster& poster_;
+    const InventoryOptions& options_;
 };
 
 } // namespace tarnic

@@ -16,17 +16,27 @@ template <typename T> T& required(const std::unique_ptr<T>& part, const char* wh
 
 RemapperSession::RemapperSession(const InventoryRemapper::Models& inventoryModels,
                                  Platform& platform)
+    : RemapperSession(inventoryModels, kInventoryOptionsOff, platform) {}
+
+RemapperSession::RemapperSession(const InventoryRemapper::Models& inventoryModels,
+                                 const InventoryOptions& options, Platform& platform)
     : platform_(platform),
       remapper_(std::make_shared<InventoryRemapper>(
-          inventoryModels, required(platform.keyPoster, "the platform has no key poster"))) {
+          inventoryModels, required(platform.keyPoster, "the platform has no key poster"),
+          options)) {
     required(platform.keyObserver, "the platform has no key observer");
     required(platform.frontmostApplication, "the platform has no frontmost application");
+    required(platform.frontmostWatcher, "the platform has no frontmost watcher");
 }
 
 void RemapperSession::installObservers() {
     const std::weak_ptr<InventoryRemapper> remapper = remapper_;
-    platform_.keyObserver->addKeyDownMonitor([remapper](int keyCode) {
+    FrontmostWatcher* watcher = platform_.frontmostWatcher.get();
+    platform_.keyObserver->addKeyDownMonitor([remapper, watcher](int keyCode) {
         if (const auto alive = remapper.lock()) {
+            if (alive->needsFrontmostAtKeyPress()) {
+                watcher->takeInChanges();
+            }
             alive->keyDown(keyCode);
         }
     });
@@ -35,6 +45,12 @@ void RemapperSession::installObservers() {
             alive->flagsChanged(keyCode);
         }
     });
+    watcher->addChangeMonitor([remapper](const std::optional<std::string>& identifier) {
+        if (const auto alive = remapper.lock()) {
+            alive->frontmostChanged(identifier);
+        }
+    });
+    remapper_->frontmostChanged(watcher->frontmostIdentifier());
 }
 
 void RemapperSession::eventWithTimer() {

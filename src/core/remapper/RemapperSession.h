@@ -8,21 +8,29 @@
 namespace tarnic {
 
 // Connects the remapper to a platform: the observers feed its decisions, the platform's poster
-// types its taps, and the game-detection tick asks the platform which application is in front.
-// The owner (the main window's controller) keeps the session, the bindings and the platform for
-// the life of the process.
+// types its taps, the game-detection tick asks the platform which application is in front, and
+// the frontmost watcher tells it of every change of the window in front.
+// The owner (the main window's controller) keeps the session, the bindings, the options and the
+// platform for the life of the process.
 class RemapperSession {
 public:
-    // Reads `inventoryModels` afresh on every key press. The platform's poster and frontmost
-    // application must outlive the session.
+    // Reads `inventoryModels` and `options` afresh on every key press. The platform must outlive
+    // the session.
     RemapperSession(const InventoryRemapper::Models& inventoryModels, Platform& platform);
+    RemapperSession(const InventoryRemapper::Models& inventoryModels,
+                    const InventoryOptions& options, Platform& platform);
 
     RemapperSession(const RemapperSession&) = delete;
     RemapperSession& operator=(const RemapperSession&) = delete;
 
-    // Installs the key-down monitor, then the modifier-change monitor. Call once; the monitors
-    // are never removed. Should the session go first, they fall silent instead of reaching a
-    // destroyed remapper.
+    // Installs the key-down monitor, then the modifier-change monitor, then the frontmost
+    // watcher's change monitor, and takes the frontmost application as the watcher knows it now.
+    // Call once; the monitors are never removed. Should the session go first, they fall silent
+    // instead of reaching a destroyed remapper.
+    //
+    // While an option is on, a key press first takes in the window changes that have already
+    // arrived (no request to the display server): the decision is about the window in front at
+    // that moment.
     void installObservers();
 
     // The game-detection tick: refreshes isWarRun from the frontmost application.

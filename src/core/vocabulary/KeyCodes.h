@@ -36,7 +36,6 @@ inline constexpr std::array<std::string_view, 22> keyboardKeysNum = {
 // The pop-up title that means "no key".
 inline constexpr char select[] = "Select";
 
-
 // The game's bundle identifier.
 inline constexpr char war3ID[] = "com.blizzard.WarcraftIII";
 

@@ -4,14 +4,20 @@
 
 namespace tarnic {
 
-// Trust that test code sets; trusted unless told otherwise.
+// Trust that test code sets; trusted unless told otherwise. Untrusted without a reason of its
+// own, it says the display server would not start the recording.
 class FakeAccessibilityTrust : public AccessibilityTrust {
 public:
-    bool isProcessTrusted() const override { return trusted_; }
-    void setTrusted(bool trusted) { trusted_ = trusted; }
+    bool isProcessTrusted() const override { return reason_ == UntrustedReason::Trusted; }
+    UntrustedReason untrustedReason() const override { return reason_; }
+
+    void setTrusted(bool trusted) {
+        reason_ = trusted ? UntrustedReason::Trusted : UntrustedReason::RecordingRefused;
+    }
+    void setUntrusted(UntrustedReason reason) { reason_ = reason; }
 
 private:
-    bool trusted_ = true;
+    UntrustedReason reason_ = UntrustedReason::Trusted;
 };
 
 } // namespace tarnic

@@ -12,6 +12,7 @@ Platform makeFakePlatform() {
     platform.keyPoster = std::make_unique<RecordingKeyPoster>();
     platform.frontmostApplication = std::make_unique<FakeFrontmostApplication>();
     platform.accessibilityTrust = std::move(trust);
+    platform.frontmostWatcher = std::make_unique<FakeFrontmostWatcher>();
     return platform;
 }
 
@@ -23,6 +24,7 @@ FakeParts fakeParts(const Platform& platform) {
         dynamic_cast<FakeFrontmostApplication*>(platform.frontmostApplication.get());
     parts.accessibilityTrust =
         dynamic_cast<FakeAccessibilityTrust*>(platform.accessibilityTrust.get());
+    parts.frontmostWatcher = dynamic_cast<FakeFrontmostWatcher*>(platform.frontmostWatcher.get());
     return parts;
 }
 

@@ -3,6 +3,7 @@
 #include "core/platform/Platform.h"
 #include "platform/fake/FakeAccessibilityTrust.h"
 #include "platform/fake/FakeFrontmostApplication.h"
+#include "platform/fake/FakeFrontmostWatcher.h"
 #include "platform/fake/FakeKeyObserver.h"
 #include "platform/fake/RecordingKeyPoster.h"
 
@@ -15,9 +16,11 @@ struct FakeParts {
     RecordingKeyPoster* keyPoster = nullptr;
     FakeFrontmostApplication* frontmostApplication = nullptr;
     FakeAccessibilityTrust* accessibilityTrust = nullptr;
+    FakeFrontmostWatcher* frontmostWatcher = nullptr;
 };
 
-// A platform made of the recording fakes: trusted, no application frontmost, nothing posted.
+// A platform made of the recording fakes: trusted, no application frontmost (nor announced),
+// nothing posted.
 // Its key observer reports nothing while its trust is turned off.
 Platform makeFakePlatform();
 

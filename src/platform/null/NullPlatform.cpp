@@ -22,9 +22,18 @@ public:
     std::optional<std::string> bundleIdentifier() const override { return std::nullopt; }
 };
 
+class NullFrontmostWatcher : public FrontmostWatcher {
+public:
+    std::optional<std::string> frontmostIdentifier() const override { return std::nullopt; }
+    // Nothing is ever announced: the handler is not even kept.
+    void addChangeMonitor(Handler) override {}
+    void takeInChanges() override {}
+};
+
 class Untrusted : public AccessibilityTrust {
 public:
     bool isProcessTrusted() const override { return false; }
+    UntrustedReason untrustedReason() const override { return UntrustedReason::NoDisplayServer; }
 };
 
 } // namespace
@@ -35,6 +44,7 @@ Platform makeNullPlatform() {
     platform.keyPoster = std::make_unique<NullKeyPoster>();
     platform.frontmostApplication = std::make_unique<NullFrontmostApplication>();
     platform.accessibilityTrust = std::make_unique<Untrusted>();
+    platform.frontmostWatcher = std::make_unique<NullFrontmostWatcher>();
     return platform;
 }
 

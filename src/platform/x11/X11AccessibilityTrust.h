@@ -8,12 +8,21 @@ namespace tarnic::x11 {
 // whether the key observer's recording could be set up and started.
 class X11AccessibilityTrust : public AccessibilityTrust {
 public:
-    explicit X11AccessibilityTrust(bool recording) : recording_(recording) {}
+    X11AccessibilityTrust(bool recording, bool serverHasRecord)
+        : recording_(recording), serverHasRecord_(serverHasRecord) {}
 
     bool isProcessTrusted() const override { return recording_; }
+    UntrustedReason untrustedReason() const override {
+        if (recording_) {
+            return UntrustedReason::Trusted;
+        }
+        return serverHasRecord_ ? UntrustedReason::RecordingRefused
+                                : UntrustedReason::NoKeyRecording;
+    }
 
 private:
     bool recording_;
+    bool serverHasRecord_;
 };
 
 } // namespace tarnic::x11

@@ -1,5 +1,7 @@
 #include "platform/x11/X11Connection.h"
 
+#include "platform/x11/X11EventPump.h"
+
 #include <X11/Xlib.h>
 
 #include <map>
@@ -50,6 +52,8 @@ std::shared_ptr<X11Connection> X11Connection::open(const char* displayName) {
 X11Connection::X11Connection(_XDisplay* display) : display_(display) {}
 
 X11Connection::~X11Connection() {
+    // Its socket notifier must not outlive the socket.
+    eventPump_.reset();
     XCloseDisplay(display_);
     std::lock_guard lock(gMutex);
     gErrorCounts.erase(display_);
@@ -59,6 +63,13 @@ unsigned long X11Connection::errorCount() const {
     std::lock_guard lock(gMutex);
     const auto it = gErrorCounts.find(display_);
     return it == gErrorCounts.end() ? 0 : it->second;
+}
+
+X11EventPump& X11Connection::eventPump() {
+    if (!eventPump_) {
+        eventPump_ = std::make_unique<X11EventPump>(display_);
+    }
+    return *eventPump_;
 }
 
 bool X11Connection::syncSucceeded() {

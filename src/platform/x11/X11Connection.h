@@ -6,6 +6,8 @@ struct _XDisplay;
 
 namespace tarnic::x11 {
 
+class X11EventPump;
+
 // One Xlib connection to the X server, closed when the last owner lets go. X protocol errors on
 // our connections are counted instead of ending the process (Xlib's default): a window can vanish
 // between two requests, and that is no reason to stop.
@@ -25,10 +27,16 @@ public:
     // failed.
     bool syncSucceeded();
 
+    // The one reader of this connection's events, made at the first call (needs the
+    // QCoreApplication). Never ask for it on a connection that carries a recording: nothing but
+    // the recording may read there.
+    X11EventPump& eventPump();
+
 private:
     explicit X11Connection(_XDisplay* display);
 
     _XDisplay* display_;
+    std::unique_ptr<X11EventPump> eventPump_;
 };
 
 } // namespace tarnic::x11

@@ -36,14 +36,9 @@ std::optional<Window> activeWindow(Display* display, Atom activeWindowAtom) {
 
 } // namespace
 
-X11FrontmostApplication::X11FrontmostApplication(std::shared_ptr<X11Connection> connection)
-    : connection_(std::move(connection)) {
-    activeWindowAtom_ = XInternAtom(connection_->display(), "_NET_ACTIVE_WINDOW", False);
-}
-
-std::optional<std::string> X11FrontmostApplication::bundleIdentifier() const {
-    Display* display = connection_->display();
-    const std::optional<Window> window = activeWindow(display, activeWindowAtom_);
+std::optional<std::string> readFrontmostIdentifier(_XDisplay* display,
+                                                   unsigned long activeWindowAtom) {
+    const std::optional<Window> window = activeWindow(display, activeWindowAtom);
     if (!window) {
         return std::nullopt;
     }
@@ -63,6 +58,15 @@ std::optional<std::string> X11FrontmostApplication::bundleIdentifier() const {
         XFree(hint.res_class);
     }
     return identifier;
+}
+
+X11FrontmostApplication::X11FrontmostApplication(std::shared_ptr<X11Connection> connection)
+    : connection_(std::move(connection)) {
+    activeWindowAtom_ = XInternAtom(connection_->display(), "_NET_ACTIVE_WINDOW", False);
+}
+
+std::optional<std::string> X11FrontmostApplication::bundleIdentifier() const {
+    return readFrontmostIdentifier(connection_->display(), activeWindowAtom_);
 }
 
 } // namespace tarnic::x11

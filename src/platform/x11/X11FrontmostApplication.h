@@ -3,10 +3,19 @@
 #include "core/platform/FrontmostApplication.h"
 
 #include <memory>
+#include <optional>
+#include <string>
+
+struct _XDisplay;
 
 namespace tarnic::x11 {
 
 class X11Connection;
+
+// The identifier of the application whose window is in _NET_ACTIVE_WINDOW now, read from the
+// server (two round trips); none as described below.
+std::optional<std::string> readFrontmostIdentifier(_XDisplay* display,
+                                                   unsigned long activeWindowAtom);
 
 // The frontmost application as the window manager names it: the window in _NET_ACTIVE_WINDOW on
 // the root window, identified by the class of its WM_CLASS (see identifierOfWindowClass). None

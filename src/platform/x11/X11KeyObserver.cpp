@@ -35,6 +35,7 @@ X11KeyObserver::X11KeyObserver(std::shared_ptr<X11Connection> control, const cha
     if (XRecordQueryVersion(controlDisplay, &major, &minor) == 0) {
         return;
     }
+    serverHasRecord_ = true;
     recordConnection_ = X11Connection::open(displayName);
     if (!recordConnection_) {
         return;

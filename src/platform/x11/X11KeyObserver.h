@@ -38,6 +38,8 @@ public:
 
     // Whether the server offers RECORD and the recording context was made and enabled.
     bool isRecording() const { return recording_; }
+    // Whether the server offers RECORD at all.
+    bool serverHasRecord() const { return serverHasRecord_; }
 
 private:
     friend struct RecordCallback;
@@ -48,6 +50,7 @@ private:
     X11KeyRouter router_;
     unsigned long context_ = 0;
     bool recording_ = false;
+    bool serverHasRecord_ = false;
     bool started_ = false;
     bool closing_ = false;
     std::unique_ptr<QSocketNotifier> notifier_;

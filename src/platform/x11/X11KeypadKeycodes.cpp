@@ -1,10 +1,8 @@
 #include "platform/x11/X11KeypadKeycodes.h"
 
 #include "platform/x11/X11Connection.h"
+#include "platform/x11/X11EventPump.h"
 #include "platform/x11/X11KeyCodes.h"
-
-#include <QAbstractEventDispatcher>
-#include <QSocketNotifier>
 
 #include <X11/XKBlib.h>
 #include <X11/Xatom.h>
@@ -193,24 +191,17 @@ X11KeypadKeycodes::X11KeypadKeycodes(std::shared_ptr<X11Connection> connection)
     }
     claim();
 
-    // Nothing else reads this connection's events; they are all keymap notifications.
-    notifier_ = std::make_unique<QSocketNotifier>(ConnectionNumber(display), QSocketNotifier::Read);
-    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
-                     [this] { takeInKeymapChanges(); });
-    // A request that waits for its reply (the frontmost window, the input focus) may have read a
-    // notification into Xlib's queue, leaving the socket empty: look there before sleeping.
-    if (QAbstractEventDispatcher* dispatcher = QAbstractEventDispatcher::instance()) {
-        QObject::connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, notifier_.get(),
-                         [this] {
-                             if (XEventsQueued(connection_->display(), QueuedAlready) > 0) {
-                                 takeInKeymapChanges();
-                             }
-                         });
-    }
+    X11EventPump& pump = connection_->eventPump();
+    listener_ = pump.addListener([this](XEvent& event) { takeIn(event); },
+                                 [this] {
+                                     if (std::exchange(keymapChanged_, false)) {
+                                         verify();
+                                     }
+                                 });
 }
 
 X11KeypadKeycodes::~X11KeypadKeycodes() {
-    notifier_.reset();
+    connection_->eventPump().removeListener(listener_);
     release();
 }
 
@@ -235,33 +226,24 @@ bool X11KeypadKeycodes::isOwn(unsigned xKeycode) const {
 }
 
 void X11KeypadKeycodes::takeInKeymapChanges() {
-    if (readEvents()) {
-        verify();
-    }
+    // The pump's settled step verifies the keycodes when a notification was among the events.
+    connection_->eventPump().readPending();
 }
 
-bool X11KeypadKeycodes::readEvents() {
-    Display* display = connection_->display();
-    bool changed = false;
-    // Reads what the socket holds without waiting; no request goes out.
-    while (XEventsQueued(display, QueuedAfterReading) > 0) {
-        XEvent event{};
-        XNextEvent(display, &event);
-        if (event.type == MappingNotify) {
-            if (event.xmapping.request != MappingPointer) {
-                XRefreshKeyboardMapping(&event.xmapping);
-                changed = true;
-            }
-        } else if (xkbEventBase_ >= 0 && event.type == xkbEventBase_) {
-            auto* xkb = reinterpret_cast<XkbEvent*>(&event);
-            if (xkb->any.xkb_type == XkbMapNotify || xkb->any.xkb_type == XkbNewKeyboardNotify) {
-                // Also takes in a new keycode range, which the keymap is read over.
-                XkbRefreshKeyboardMapping(&xkb->map);
-                changed = true;
-            }
+void X11KeypadKeycodes::takeIn(XEvent& event) {
+    if (event.type == MappingNotify) {
+        if (event.xmapping.request != MappingPointer) {
+            XRefreshKeyboardMapping(&event.xmapping);
+            keymapChanged_ = true;
+        }
+    } else if (xkbEventBase_ >= 0 && event.type == xkbEventBase_) {
+        auto* xkb = reinterpret_cast<XkbEvent*>(&event);
+        if (xkb->any.xkb_type == XkbMapNotify || xkb->any.xkb_type == XkbNewKeyboardNotify) {
+            // Also takes in a new keycode range, which the keymap is read over.
+            XkbRefreshKeyboardMapping(&xkb->map);
+            keymapChanged_ = true;
         }
     }
-    return changed;
 }
 
 void X11KeypadKeycodes::verify() {

@@ -4,7 +4,7 @@
 #include <memory>
 #include <optional>
 
-class QSocketNotifier;
+union _XEvent;
 
 namespace tarnic::x11 {
 
@@ -35,17 +35,18 @@ class X11Connection;
 //
 // The keymap can change under us (setxkbmap, a new keyboard, XWayland reloading the compositor's
 // keymap). The main connection listens for XKB's map and new-keyboard notifications and the core
-// MappingNotify; they are read whenever its socket has data, before the event loop sleeps, and
-// before each tap, and any keycode that no longer holds its digit is given up and claimed again
-// at once. The check before a tap reads only what the server has already sent: no round trip
-// unless the keymap has changed.
+// MappingNotify; they are read by the connection's event pump (whenever its socket has data and
+// before the event loop sleeps) and before each tap, and any keycode that no longer holds its
+// digit is given up and claimed again at once. The check before a tap reads only what the server
+// has already sent: no round trip unless the keymap has changed.
 //
 // Wine takes in a mapping made after it started only once it has handled the server's
 // notification (about 3 s measured), so the claim happens when the platform starts, long before
 // the first tap, and is kept until the program ends. The destructor gives the keycodes back.
 class X11KeypadKeycodes {
 public:
-    // Claims the keycodes at once. Needs the QCoreApplication to exist (the socket notifier).
+    // Claims the keycodes at once. Needs the QCoreApplication to exist (the connection's event
+    // pump).
     explicit X11KeypadKeycodes(std::shared_ptr<X11Connection> connection);
     // Gives back every keycode that still holds its digit.
     ~X11KeypadKeycodes();
@@ -67,7 +68,7 @@ public:
     void takeInKeymapChanges();
 
 private:
-    bool readEvents();
+    void takeIn(_XEvent& event);
     void verify();
     void claim();
     void release();
@@ -77,7 +78,8 @@ private:
     int xkbEventBase_ = -1;
     unsigned long propertyAtom_ = 0;
     bool fallbackReported_ = false;
-    std::unique_ptr<QSocketNotifier> notifier_;
+    bool keymapChanged_ = false;
+    int listener_ = 0;
 };
 
 } // namespace tarnic::x11

@@ -3,6 +3,7 @@
 #include "platform/x11/X11AccessibilityTrust.h"
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/X11FrontmostApplication.h"
+#include "platform/x11/X11FrontmostWatcher.h"
 #include "platform/x11/X11KeyObserver.h"
 #include "platform/x11/X11KeyPoster.h"
 #include "platform/x11/X11KeypadKeycodes.h"
@@ -53,12 +54,15 @@ std::optional<Platform> makeX11Platform(const char* displayName) {
         connection, displayName, [raw = connection.get()] { return ownWindowHasFocus(*raw); },
         [keypad](unsigned xKeycode) { return keypad->isOwn(xKeycode); });
     const bool recording = observer->isRecording();
+    const bool serverHasRecord = observer->serverHasRecord();
 
     Platform platform;
     platform.keyObserver = std::move(observer);
     platform.keyPoster = std::make_unique<x11::X11KeyPoster>(connection, keypad);
     platform.frontmostApplication = std::make_unique<x11::X11FrontmostApplication>(connection);
-    platform.accessibilityTrust = std::make_unique<x11::X11AccessibilityTrust>(recording);
+    platform.accessibilityTrust =
+        std::make_unique<x11::X11AccessibilityTrust>(recording, serverHasRecord);
+    platform.frontmostWatcher = std::make_unique<x11::X11FrontmostWatcher>(connection);
     return platform;
 }
 

@@ -7,13 +7,14 @@
 namespace tarnic {
 
 // The X11 backend: the key observer (RECORD), the key poster (XTest), the frontmost application
-// (_NET_ACTIVE_WINDOW and WM_CLASS) and the accessibility answer (whether recording started).
+// (_NET_ACTIVE_WINDOW and WM_CLASS, asked for, and followed through the root window's
+// property-change events) and the accessibility answer (whether recording started).
 //
 // Call it once, on the main thread, after the QGuiApplication (or QApplication) exists and
 // before its event loop runs; the observer's replies are read by that event loop. The backend
 // opens two connections of its own to `displayName` (null: $DISPLAY): a main one for posting,
-// for the frontmost window and for controlling the recording, and one that only carries the
-// recording. Qt's own connection is left alone.
+// for the frontmost window, for the keymap and root window events and for controlling the
+// recording, and one that only carries the recording. Qt's own connection is left alone.
 //
 // The inventory slots' keypad taps go out on six keycodes the backend claims here, at once, and
 // gives back when the last of the platform's parts is destroyed (see X11KeypadKeycodes): keep the

@@ -67,6 +67,30 @@ TEST(InventoryBinding, SelectRoundTripsThroughDisplay) {
     EXPECT_TRUE(shown.shift);
 }
 
+TEST(InventoryBinding, SlotTitleNamesTheBindingOrNone) {
+    EXPECT_EQ(slotTitle(1, {}), "Slot 1  none");
+    EXPECT_EQ(slotTitle(1, {1, 56, 6}), "Slot 1  Shift+Z");
+    EXPECT_EQ(slotTitle(3, {3, 0, 12}), "Slot 3  Q");
+    EXPECT_EQ(slotTitle(6, {6, 0, 49}), "Slot 6  Space");
+    EXPECT_EQ(slotTitle(2, {2, 56, 18}), "Slot 2  Shift+1");
+}
+
+TEST(InventoryBinding, SlotTitleOfABindingWithoutAKeySaysSo) {
+    EXPECT_EQ(slotTitle(2, {2, 0, -1}), "Slot 2  (no key)");
+    EXPECT_EQ(slotTitle(5, {5, 56, 999}), "Slot 5  Shift+(no key)");
+    // Any modifier but 0 shows as Shift, as the panel's box does.
+    EXPECT_EQ(slotTitle(4, {4, 59, 12}), "Slot 4  Shift+Q");
+}
+
+TEST(InventoryBinding, SlotTitleOfAShortModelSaysItIsDamagedInsteadOfEndingTheProgram) {
+    EXPECT_EQ(slotTitle(2, {2, 0}), "Slot 2  (damaged)");
+    EXPECT_EQ(slotTitle(3, {3}), "Slot 3  (damaged)");
+}
+
+TEST(InventoryBinding, SlotTitleIsTheButtonsSlotWhateverTheModelSays) {
+    EXPECT_EQ(slotTitle(4, {1, 0, 12}), "Slot 4  Q");
+}
+
 TEST(InventoryBindingDeathTest, ShortModelIsAnIndexOutOfRange) {
     EXPECT_DEATH(displayOf({1, 0}), "Index out of range");
 }

@@ -1,15 +1,17 @@
 // Stands in for the application in the end-to-end tests and the benchmark: a Qt xcb program with
-// a window of its own that runs the X11 backend and the remapper's decisions, with the bindings
-// given on the command line. It reports on standard output, one line each:
+// a window of its own that runs the X11 backend and the remapper session, with the bindings and
+// options given on the command line. It reports on standard output, one line each:
 //   trusted true|false            the accessibility answer
 //   ready <window id>             the backend is recording and the window is shown
 //   observed down|flags <code>    what the observer reported (not with --quiet)
 //   posted down|up <code>         what the remapper asked the poster for (not with --quiet)
 //   own key <X keycode>           a key typed into the harness's own window
 //   isWarRun true|false           each change of the game flag
+//   front <identifier>|none       each change of the frontmost application the watcher announces
 // Options: --bind <slot>,<modifier>,<key> (repeatable; the n-th fills binding n),
-//          --timer-ms <interval of the game-detection timer, default 2000>, --quiet.
-#include "core/remapper/InventoryRemapper.h"
+//          --timer-ms <interval of the game-detection timer, default 2000>, --quiet,
+//          --only-game-in-front, --pause-in-chat (the two inventory options, off without).
+#include "core/remapper/RemapperSession.h"
 #include "platform/x11/X11Platform.h"
 #include "process/QuitOnSignals.h"
 
@@ -33,23 +35,24 @@ void say(const QString& line) {
 // Shows what the remapper posts, then posts it.
 class ReportingPoster : public tarnic::KeyPoster {
 public:
-    ReportingPoster(tarnic::KeyPoster& poster, bool quiet) : poster_(poster), quiet_(quiet) {}
+    ReportingPoster(std::unique_ptr<tarnic::KeyPoster> poster, bool quiet)
+        : poster_(std::move(poster)), quiet_(quiet) {}
 
     void postKeyDown(std::uint16_t keyCode) override {
-        poster_.postKeyDown(keyCode);
+        poster_->postKeyDown(keyCode);
         if (!quiet_) {
             say(QString("posted down %1").arg(keyCode));
         }
     }
     void postKeyUp(std::uint16_t keyCode) override {
-        poster_.postKeyUp(keyCode);
+        poster_->postKeyUp(keyCode);
         if (!quiet_) {
             say(QString("posted up %1").arg(keyCode));
         }
     }
 
 private:
-    tarnic::KeyPoster& poster_;
+    std::unique_ptr<tarnic::KeyPoster> poster_;
     bool quiet_;
 };
 
@@ -71,6 +74,7 @@ int main(int argc, char** argv) {
     tarnic::QuitOnSignals quitOnSignals;
 
     tarnic::InventoryRemapper::Models models;
+    tarnic::InventoryOptions options;
     std::size_t bound = 0;
     int timerMs = 2000;
     bool quiet = false;
@@ -85,6 +89,10 @@ int main(int argc, char** argv) {
             timerMs = arguments[++i].toInt();
         } else if (arguments[i] == "--quiet") {
             quiet = true;
+        } else if (arguments[i] == "--only-game-in-front") {
+            options.onlyWhileGameInFront = true;
+        } else if (arguments[i] == "--pause-in-chat") {
+            options.pauseWhileTypingInChat = true;
         }
     }
 
@@ -96,28 +104,31 @@ int main(int argc, char** argv) {
     say(QString("trusted %1")
             .arg(platform->accessibilityTrust->isProcessTrusted() ? "true" : "false"));
 
-    ReportingPoster poster(*platform->keyPoster, quiet);
-    tarnic::InventoryRemapper remapper(models, poster);
+    platform->keyPoster = std::make_unique<ReportingPoster>(std::move(platform->keyPoster), quiet);
+    // Installed before the session's monitors, so that each line comes before what it causes.
     platform->keyObserver->addKeyDownMonitor([&](int code) {
         if (!quiet) {
             say(QString("observed down %1").arg(code));
         }
-        remapper.keyDown(code);
     });
     platform->keyObserver->addFlagsChangedMonitor([&](int code) {
         if (!quiet) {
             say(QString("observed flags %1").arg(code));
         }
-        remapper.flagsChanged(code);
     });
+    platform->frontmostWatcher->addChangeMonitor([](const std::optional<std::string>& identifier) {
+        say(QString("front %1").arg(QString::fromStdString(identifier.value_or("none"))));
+    });
+    tarnic::RemapperSession session(models, options, *platform);
+    session.installObservers();
 
     QTimer timer;
     timer.setInterval(timerMs);
     QObject::connect(&timer, &QTimer::timeout, [&] {
-        const bool before = remapper.isWarRun;
-        remapper.eventWithTimer(*platform->frontmostApplication);
-        if (remapper.isWarRun != before) {
-            say(QString("isWarRun %1").arg(remapper.isWarRun ? "true" : "false"));
+        const bool before = session.remapper().isWarRun;
+        session.eventWithTimer();
+        if (session.remapper().isWarRun != before) {
+            say(QString("isWarRun %1").arg(session.remapper().isWarRun ? "true" : "false"));
         }
     });
     timer.start();

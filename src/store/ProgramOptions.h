@@ -1,0 +1,39 @@
+#pragma once
+
+#include "core/remapper/InventoryRemapper.h"
+
+#include <QSettings>
+#include <QString>
+
+#include <memory>
+
+namespace tarnic {
+
+// The program's own options, in a small file of their own beside the user defaults store:
+// "$XDG_CONFIG_HOME/Tarnic/Tarnic Pro Options.conf" ("~/.config/Tarnic/Tarnic Pro Options.conf"
+// when XDG_CONFIG_HOME is unset), an INI file. The user defaults store keeps exactly the working
+// list and the six slot bindings, the same keys in the same form at every version, so that a
+// store written by one version reads the same in any other; options added later live here
+// instead. Read afresh from the environment at every call.
+QString programOptionsPath();
+
+// The options file on programOptionsPath(). A missing file, a missing key or a value that is not
+// a truth value reads as off: these are preferences, and a damaged file costs only them.
+std::unique_ptr<QSettings> openProgramOptions();
+
+// Typed access to the options. Every change is written to the file at once.
+class ProgramOptions {
+public:
+    explicit ProgramOptions(QSettings& settings);
+
+    InventoryOptions inventoryOptions() const;
+    void setOnlyWhileGameInFront(bool on);
+    void setPauseWhileTypingInChat(bool on);
+
+private:
+    void set(const QString& key, bool on);
+
+    QSettings& settings_;
+};
+
+} // namespace tarnic
