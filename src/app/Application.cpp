@@ -3,10 +3,19 @@
 #include "shell/SiteAddress.h"
 #include "store/UserDefaults.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QIcon>
 #include <QTimer>
 
 namespace tarnic {
+
+void setApplicationIdentity() {
+    QApplication::setOrganizationName(QStringLiteral("Tarnic"));
+    QApplication::setApplicationName(QStringLiteral("Tarnic Pro"));
+    // Ties the window to its launcher and icon on the desktop.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.tarnic.TarnicPro"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.tarnic.TarnicPro")));
+}
 
 Application::Options::Options() : siteUrl(siteBaseUrl()) {}
 

@@ -18,6 +18,10 @@ namespace tarnic {
 
 class AlertPresenter;
 
+// Names the process for the desktop and the store (organization, application, desktop entry)
+// and sets the window icon. Call right after the QApplication is made, before anything else.
+void setApplicationIdentity();
+
 // The whole program, put together in one place, in start-up order: the store, the platform, the
 // controller with the remapper session and its game-detection timer, the window with its menus,
 // and the delegate. `main` runs one; the window tests run one on the recording fakes.

@@ -2,15 +2,10 @@
 #include "platform/select/MakePlatform.h"
 
 #include <QApplication>
-#include <QIcon>
 
 int main(int argc, char* argv[]) {
     QApplication qapp(argc, argv);
-    QApplication::setOrganizationName(QStringLiteral("Tarnic"));
-    QApplication::setApplicationName(QStringLiteral("Tarnic Pro"));
-    // Ties the window to its launcher and icon on the desktop.
-    QGuiApplication::setDesktopFileName(QStringLiteral("org.tarnic.TarnicPro"));
-    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.tarnic.TarnicPro")));
+    tarnic::setApplicationIdentity();
 
     tarnic::Application app(tarnic::makePlatform());
     app.start();
