@@ -1,6 +1,10 @@
 #include "gui/AbilityTableView.h"
 
 #include <QHeaderView>
+#include <QSet>
+#include <QStyleOptionViewItem>
+
+#include <algorithm>
 
 namespace tarnic {
 
@@ -27,6 +31,42 @@ void AbilityTableView::setModel(QAbstractItemModel* model) {
     if (model != nullptr && model->columnCount() > 0) {
         header->setSectionResizeMode(0, QHeaderView::Stretch);
     }
+}
+
+int AbilityTableView::sizeHintForColumn(int column) const {
+    const QAbstractItemModel* source = model();
+    if (source == nullptr) {
+        return -1;
+    }
+    const int rows = source->rowCount(rootIndex());
+    const int precision = horizontalHeader()->resizeContentsPrecision();
+    if (precision > 0 && rows > precision) {
+        return QTableView::sizeHintForColumn(column);
+    }
+    ensurePolished();
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    int hint = 0;
+    QSet<QString> measured;
+    for (int row = 0; row < rows; ++row) {
+        if (isRowHidden(row)) {
+            continue;
+        }
+        const QModelIndex index = source->index(row, column, rootIndex());
+        if (indexWidget(index) != nullptr || isPersistentEditorOpen(index)) {
+            // An editor's own size counts too; leave that to QTableView.
+            return QTableView::sizeHintForColumn(column);
+        }
+        if (!index.data(Qt::DecorationRole).isValid()) {
+            const QString text = index.data(Qt::DisplayRole).toString();
+            if (measured.contains(text)) {
+                continue;
+            }
+            measured.insert(text);
+        }
+        hint = std::max(hint, itemDelegateForIndex(index)->sizeHint(option, index).width());
+    }
+    return showGrid() ? hint + 1 : hint;
 }
 
 QItemSelectionModel::SelectionFlags AbilityTableView::selectionCommand(const QModelIndex& index,
