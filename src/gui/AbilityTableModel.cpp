@@ -1,8 +1,7 @@
 #include "gui/AbilityTableModel.h"
 
 #include "gui/GuiResources.h"
-
-#include <QPixmap>
+#include "gui/Pictures.h"
 
 namespace tarnic {
 
@@ -69,14 +68,11 @@ QVariant AbilityTableModel::data(const QModelIndex& index, int role) const {
 }
 
 QPixmap AbilityTableModel::thumbnail(const QString& name) const {
-    // A small copy of the ability's picture beside its name; drawn rows only, so it stays cheap.
+    // A small copy of the ability's picture beside its name; drawn rows only, and drawn small at
+    // build time, so that the first rows cost little to show.
     auto it = thumbnails_.find(name);
     if (it == thumbnails_.end()) {
-        const QPixmap picture(QStringLiteral(":/images/") + name + QStringLiteral(".png"));
-        it = thumbnails_.insert(name, picture.isNull() ? picture
-                                                       : picture.scaled(kThumbnail, kThumbnail,
-                                                                        Qt::KeepAspectRatio,
-                                                                        Qt::SmoothTransformation));
+        it = thumbnails_.insert(name, tarnic::thumbnail(name));
     }
     return it.value();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/record/AbilityRecord.h"
+#include "gui/Pictures.h"
 
 #include <QAbstractTableModel>
 #include <QHash>
@@ -37,7 +38,7 @@ public:
                         int role = Qt::DisplayRole) const override;
 
     // Edge of the ability pictures shown in the table, in pixels.
-    static constexpr int kThumbnail = 20;
+    static constexpr int kThumbnail = kThumbnailEdge;
 
 private:
     QPixmap thumbnail(const QString& name) const;

@@ -10,6 +10,7 @@
 #include "gui/AbilityTableView.h"
 #include "gui/GuiResources.h"
 #include "gui/Outlet.h"
+#include "gui/Pictures.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -39,7 +40,7 @@ std::optional<std::string> selectedTitle(const QComboBox& popup) {
 }
 
 QPixmap pictureNamed(const std::string& name) {
-    return QPixmap(QStringLiteral(":/images/") + qs(name) + QStringLiteral(".png"));
+    return picture(qs(name));
 }
 
 } // namespace

@@ -1,17 +1,21 @@
 // Draws the pictures of the hotkey editor: an emblem for every ability name and every owner name
 // of the catalogue, and the "empty" picture, all drawn here from the name alone. Writes the PNGs
-// and a Qt resource file that serves each one as :/images/<name>.png.
+// and a Qt resource file that serves each one as :/images/<name>.png, with its small copy for
+// the ability table as :/thumbnails/<name>.png.
 //
 // Usage: tarnic-imagegen <output folder>
 
 #include "core/catalogue/Catalogue.h"
+#include "gui/Pictures.h"
 
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QImage>
+#include <QImageReader>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmap>
 #include <QRadialGradient>
 #include <QSaveFile>
 
@@ -183,6 +187,18 @@ QString xmlEscaped(QString text) {
         .replace(QLatin1Char('"'), QStringLiteral("&quot;"));
 }
 
+// The table's small copy of a picture file, made as the table used to make it when it showed the
+// row: the file read into a pixmap, then scaled smoothly. Drawing it here spares the program a
+// decoding of the full picture for every row it shows first.
+QImage thumbnailOf(const QString& pictureFile) {
+    QImageReader reader(pictureFile, "png");
+    reader.setAutoDetectImageFormat(false);
+    return QPixmap::fromImage(reader.read())
+        .scaled(tarnic::kThumbnailEdge, tarnic::kThumbnailEdge, Qt::KeepAspectRatio,
+                Qt::SmoothTransformation)
+        .toImage();
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -209,19 +225,33 @@ int main(int argc, char** argv) {
     }
     pictures[QStringLiteral("empty")] = Kind::Empty;
 
-    QString qrc = QStringLiteral("<!DOCTYPE RCC>\n<RCC version=\"1.0\">\n"
-                                 "    <qresource prefix=\"/images\">\n");
+    QString pictureEntries;
+    QString thumbnailEntries;
     int n = 0;
     for (const auto& [name, kind] : pictures) {
-        const QString file = QStringLiteral("picture%1.png").arg(n++, 3, 10, QLatin1Char('0'));
+        const QString number = QStringLiteral("%1").arg(n++, 3, 10, QLatin1Char('0'));
+        const QString file = QStringLiteral("picture") + number + QStringLiteral(".png");
+        const QString thumbnail = QStringLiteral("thumbnail") + number + QStringLiteral(".png");
         if (!drawEmblem(name, kind).save(out.filePath(file), "PNG")) {
             std::fprintf(stderr, "tarnic-imagegen: cannot write %s\n", qPrintable(file));
             return 1;
         }
-        qrc += QStringLiteral("        <file alias=\"%1.png\">%2</file>\n")
-                   .arg(xmlEscaped(name), file);
+        if (!thumbnailOf(out.filePath(file)).save(out.filePath(thumbnail), "PNG")) {
+            std::fprintf(stderr, "tarnic-imagegen: cannot write %s\n", qPrintable(thumbnail));
+            return 1;
+        }
+        const QString alias = xmlEscaped(name);
+        pictureEntries +=
+            QStringLiteral("        <file alias=\"%1.png\">%2</file>\n").arg(alias, file);
+        thumbnailEntries +=
+            QStringLiteral("        <file alias=\"%1.png\">%2</file>\n").arg(alias, thumbnail);
     }
-    qrc += QStringLiteral("    </qresource>\n</RCC>\n");
+    const QString qrc = QStringLiteral("<!DOCTYPE RCC>\n<RCC version=\"1.0\">\n"
+                                       "    <qresource prefix=\"/images\">\n") +
+                        pictureEntries +
+                        QStringLiteral("    </qresource>\n"
+                                       "    <qresource prefix=\"/thumbnails\">\n") +
+                        thumbnailEntries + QStringLiteral("    </qresource>\n</RCC>\n");
 
     QSaveFile qrcFile(out.filePath(QStringLiteral("images.qrc")));
     if (!qrcFile.open(QIODevice::WriteOnly) || qrcFile.write(qrc.toUtf8()) < 0 ||
