@@ -14,6 +14,14 @@ void AbilityTableModel::setColumns(const QStringList& identifiers, const QString
     beginResetModel();
     identifiers_ = identifiers;
     titles_ = titles;
+    columns_.clear();
+    for (const QString& identifier : identifiers) {
+        Column column;
+        column.key = identifier.toStdString();
+        column.isKey = column.key == def_hotkey || column.key == new_hotkey;
+        column.isName = column.key == name_spell;
+        columns_.push_back(std::move(column));
+    }
     rows_ = static_cast<int>(list_.size());
     endResetModel();
 }
@@ -51,15 +59,14 @@ QVariant AbilityTableModel::data(const QModelIndex& index, int role) const {
         static_cast<std::size_t>(index.row()) >= list_.size()) {
         return {};
     }
-    const std::string key = identifiers_.at(index.column()).toStdString();
-    const bool isKey = key == def_hotkey || key == new_hotkey;
-    if (role == Qt::TextAlignmentRole && isKey) {
+    const Column& column = columns_.at(static_cast<std::size_t>(index.column()));
+    if (role == Qt::TextAlignmentRole && column.isKey) {
         return QVariant::fromValue(Qt::Alignment(Qt::AlignCenter));
     }
-    if (role != Qt::DisplayRole && !(role == Qt::DecorationRole && key == name_spell)) {
+    if (role != Qt::DisplayRole && !(role == Qt::DecorationRole && column.isName)) {
         return {};
     }
-    const std::string* value = field(list_[static_cast<std::size_t>(index.row())], key);
+    const std::string* value = field(list_[static_cast<std::size_t>(index.row())], column.key);
     if (value == nullptr) {
         return {};
     }

@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QStringList>
 
+#include <string>
 #include <vector>
 
 namespace tarnic {
@@ -43,8 +44,16 @@ public:
 private:
     QPixmap thumbnail(const QString& name) const;
 
+    // What each column shows, worked out once: the delegate asks for a dozen roles per cell.
+    struct Column {
+        std::string key;
+        bool isKey = false;  // a hotkey: centred
+        bool isName = false; // the ability's name: with its picture
+    };
+
     const std::vector<AbilityRecord>& list_;
     QStringList identifiers_;
+    std::vector<Column> columns_;
     QStringList titles_;
     // The row count the views were last told; the list may already have changed.
     int rows_ = 0;

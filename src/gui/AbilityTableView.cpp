@@ -1,8 +1,7 @@
 #include "gui/AbilityTableView.h"
 
 #include <QHeaderView>
-#include <QSet>
-#include <QStyleOptionViewItem>
+#include <QAbstractItemDelegate>
 
 #include <algorithm>
 
@@ -33,6 +32,20 @@ void AbilityTableView::setModel(QAbstractItemModel* model) {
     }
 }
 
+namespace {
+
+// A cell whose width is its text's alone, for a given delegate and style.
+bool isPlainText(const QModelIndex& index) {
+    for (int role : {Qt::DecorationRole, Qt::FontRole, Qt::CheckStateRole, Qt::SizeHintRole}) {
+        if (index.data(role).isValid()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
 int AbilityTableView::sizeHintForColumn(int column) const {
     const QAbstractItemModel* source = model();
     if (source == nullptr) {
@@ -46,8 +59,14 @@ int AbilityTableView::sizeHintForColumn(int column) const {
     ensurePolished();
     QStyleOptionViewItem option;
     initViewItemOption(&option);
+    const MeasureContext context{
+        option.font,          style(),       option.decorationSize, option.features,
+        option.textElideMode, option.locale, option.direction};
+    if (measuredIn_ != context) {
+        measuredWidths_.clear();
+        measuredIn_ = context;
+    }
     int hint = 0;
-    QSet<QString> measured;
     for (int row = 0; row < rows; ++row) {
         if (isRowHidden(row)) {
             continue;
@@ -57,14 +76,17 @@ int AbilityTableView::sizeHintForColumn(int column) const {
             // An editor's own size counts too; leave that to QTableView.
             return QTableView::sizeHintForColumn(column);
         }
-        if (!index.data(Qt::DecorationRole).isValid()) {
-            const QString text = index.data(Qt::DisplayRole).toString();
-            if (measured.contains(text)) {
-                continue;
-            }
-            measured.insert(text);
+        QAbstractItemDelegate* delegate = itemDelegateForIndex(index);
+        if (!isPlainText(index)) {
+            hint = std::max(hint, delegate->sizeHint(option, index).width());
+            continue;
         }
-        hint = std::max(hint, itemDelegateForIndex(index)->sizeHint(option, index).width());
+        const std::pair<const void*, QString> key(delegate, index.data(Qt::DisplayRole).toString());
+        auto width = measuredWidths_.constFind(key);
+        if (width == measuredWidths_.constEnd()) {
+            width = measuredWidths_.insert(key, delegate->sizeHint(option, index).width());
+        }
+        hint = std::max(hint, width.value());
     }
     return showGrid() ? hint + 1 : hint;
 }

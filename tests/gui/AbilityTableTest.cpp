@@ -218,10 +218,25 @@ TEST_F(AbilityTable, ColumnsFitTheirContentsAsEveryRowMeasuredWould) {
             EXPECT_EQ(table.measured(column), table.everyRow(column)) << column;
         }
     }
+    auto expectSameWidths = [&](const char* after) {
+        for (int column = 0; column < model.columnCount(); ++column) {
+            EXPECT_EQ(table.measured(column), table.everyRow(column)) << after << ", " << column;
+        }
+    };
     table.setRowHidden(static_cast<int>(list.size()) - 1, true);
-    for (int column = 0; column < model.columnCount(); ++column) {
-        EXPECT_EQ(table.measured(column), table.everyRow(column)) << column;
-    }
+    expectSameWidths("a hidden row");
+    // Widths measured before are kept; a change of text, font or icon size measures anew.
+    list[5][new_hotkey] = "Shift+Num 7";
+    model.reload();
+    expectSameWidths("a new text");
+    QFont larger = table.font();
+    larger.setPointSize(larger.pointSize() + 6);
+    const int before = table.measured(1);
+    table.setFont(larger);
+    EXPECT_GT(table.measured(1), before);
+    expectSameWidths("a larger font");
+    table.setIconSize(QSize(40, 40));
+    expectSameWidths("larger pictures");
 }
 
 using AbilityTableDeathTest = AbilityTable;
