@@ -209,7 +209,7 @@ std::vector<std::string> childEnvironment(const std::string& display, const fs::
     return environment;
 }
 
-Sample runOnce(MapWatcher& watcher, const std::string& program,
+Sample runOnce(MapWatcher& watcher, const std::vector<std::string>& command,
                const std::vector<std::string>& environment) {
     watcher.drain();
     std::vector<char*> envp;
@@ -217,7 +217,11 @@ Sample runOnce(MapWatcher& watcher, const std::string& program,
         envp.push_back(const_cast<char*>(entry.c_str()));
     }
     envp.push_back(nullptr);
-    char* argv[] = {const_cast<char*>(program.c_str()), nullptr};
+    std::vector<char*> argv;
+    for (const std::string& word : command) {
+        argv.push_back(const_cast<char*>(word.c_str()));
+    }
+    argv.push_back(nullptr);
 
     const long long start = monotonicNs();
     const pid_t pid = fork();
@@ -226,7 +230,7 @@ Sample runOnce(MapWatcher& watcher, const std::string& program,
         dup2(devNull, STDIN_FILENO);
         dup2(devNull, STDOUT_FILENO);
         dup2(devNull, STDERR_FILENO);
-        execve(program.c_str(), argv, envp.data());
+        execve(argv[0], argv.data(), envp.data());
         _exit(127);
     }
     if (pid < 0) {
@@ -294,8 +298,11 @@ Stats statsOf(std::vector<double> values) {
 
 struct Series {
     const char* name;
-    std::string program;
+    std::vector<std::string> command;
     enum class Store { Fresh, Kept } store;
+    // Whether its figures are held to the targets; the +after-paint row only shows what the
+    // deferred work costs.
+    bool target;
     std::vector<Sample> samples;
     int failed = 0;
 
@@ -339,9 +346,14 @@ int main(int argc, char** argv) {
             std::fprintf(stderr, "cannot watch %s\n", server.display.c_str());
         } else {
             std::vector<Series> series = {
-                {"bare QTableWidget", bare, Series::Store::Fresh, {}},
-                {"app, first-run store", app, Series::Store::Fresh, {}},
-                {"app, stored full list", app, Series::Store::Kept, {}},
+                {"bare QTableWidget", {bare}, Series::Store::Fresh, true, {}},
+                {"app, first-run store", {app}, Series::Store::Fresh, true, {}},
+                {"app, stored full list", {app}, Series::Store::Kept, true, {}},
+                {"app, stored, +after-paint",
+                 {app, "--after-paint-work"},
+                 Series::Store::Kept,
+                 false,
+                 {}},
             };
             int fresh = 0;
             auto startOf = [&](const Series& s) {
@@ -349,7 +361,7 @@ int main(int argc, char** argv) {
                                             ? kept
                                             : root / ("fresh" + std::to_string(fresh++));
                 fs::create_directories(config);
-                const Sample sample = runOnce(watcher, s.program,
+                const Sample sample = runOnce(watcher, s.command,
                                               childEnvironment(server.display, config, runtimeDir));
                 if (s.store == Series::Store::Fresh) {
                     std::error_code ignored;
@@ -387,10 +399,12 @@ int main(int argc, char** argv) {
                         loadAfter.c_str());
             std::printf("The app runs as main builds it, without the version gate (no site "
                         "address: a network check after the window is up).\n");
-            std::printf("Both quit once their table's first paint has been handled.\n\n");
-            std::printf("%-24s | %-23s | %-23s | %-23s | %-8s | %s\n", "", "start to first map, ms",
+            std::printf("Both quit once their table's first paint has been handled, before what "
+                        "the app keeps for after its first frame (the icon-theme lookup); the "
+                        "+after-paint row quits once that is done too.\n\n");
+            std::printf("%-26s | %-23s | %-23s | %-23s | %-8s | %s\n", "", "start to first map, ms",
                         "whole process, ms", "peak RSS, MiB", "cpu, ms", "failed");
-            std::printf("%-24s | %7s %7s %7s | %7s %7s %7s | %7s %7s %7s | %8s |\n", "program",
+            std::printf("%-26s | %7s %7s %7s | %7s %7s %7s | %7s %7s %7s | %8s |\n", "program",
                         "median", "p90", "max", "median", "p90", "max", "median", "p90", "max",
                         "median");
             for (const Series& s : series) {
@@ -398,14 +412,14 @@ int main(int argc, char** argv) {
                 const Stats exit = s.stats([](const Sample& x) { return x.exitMs; });
                 const Stats peak = s.stats([](const Sample& x) { return x.peakMiB; });
                 const Stats cpu = s.stats([](const Sample& x) { return x.cpuMs; });
-                std::printf("%-24s | %7.1f %7.1f %7.1f | %7.1f %7.1f %7.1f | %7.1f %7.1f %7.1f | "
+                std::printf("%-26s | %7.1f %7.1f %7.1f | %7.1f %7.1f %7.1f | %7.1f %7.1f %7.1f | "
                             "%8.1f | %d\n",
                             s.name, map.median, map.p90, map.max, exit.median, exit.p90, exit.max,
                             peak.median, peak.p90, peak.max, cpu.median, s.failed);
             }
 
             std::printf("\nRatios app / bare of the medians (target: at most %.1fx)\n", kTarget);
-            std::printf("%-24s | %-16s | %-16s | %-16s | %s\n", "", "first map", "whole process",
+            std::printf("%-26s | %-16s | %-16s | %-16s | %s\n", "", "first map", "whole process",
                         "peak RSS", "cpu");
             const Series& floor = series[0];
             bool allMet = true;
@@ -420,11 +434,14 @@ int main(int argc, char** argv) {
                 const double peak = ratio([](const Sample& x) { return x.peakMiB; });
                 const double cpu = ratio([](const Sample& x) { return x.cpuMs; });
                 auto mark = [&](double value) {
+                    if (!s.target) {
+                        return "(info)";
+                    }
                     const bool met = value > 0 && value <= kTarget && s.failed == 0;
                     allMet = allMet && met;
                     return met ? "met" : "NOT met";
                 };
-                std::printf("%-24s | %5.2fx %-9s | %5.2fx %-9s | %5.2fx %-9s | %5.2fx\n", s.name,
+                std::printf("%-26s | %5.2fx %-9s | %5.2fx %-9s | %5.2fx %-9s | %5.2fx\n", s.name,
                             map, mark(map), exit, mark(exit), peak, mark(peak), cpu);
             }
             std::printf("\nAll targets: %s\n", allMet && floor.failed == 0 ? "met" : "NOT met");

@@ -9,12 +9,20 @@
 
 namespace tarnic {
 
+namespace {
+
+const QString kDesktopId = QStringLiteral("org.tarnic.TarnicPro");
+
+// The first frame waits for nothing else; a window that opens covered still gets its icon soon.
+constexpr std::chrono::milliseconds kIconAtTheLatest{500};
+
+} // namespace
+
 void setApplicationIdentity() {
     QApplication::setOrganizationName(QStringLiteral("Tarnic"));
     QApplication::setApplicationName(QStringLiteral("Tarnic Pro"));
     // Ties the window to its launcher and icon on the desktop.
-    QGuiApplication::setDesktopFileName(QStringLiteral("org.tarnic.TarnicPro"));
-    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.tarnic.TarnicPro")));
+    QGuiApplication::setDesktopFileName(kDesktopId);
 }
 
 Application::Options::Options() : siteUrl(siteBaseUrl()) {}
@@ -40,6 +48,10 @@ void Application::start() {
                                                                options_.gameDetectionInterval);
     window_.show();
     controller_.viewDidAppear();
+    afterFirstPaint_ =
+        std::make_unique<AfterFirstPaint>(*controller_.tableView->viewport(), kIconAtTheLatest, [] {
+            QApplication::setWindowIcon(QIcon::fromTheme(kDesktopId));
+        });
     QTimer::singleShot(0, &delegate_, &AppDelegate::applicationDidFinishLaunching);
 }
 

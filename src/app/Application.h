@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/AfterFirstPaint.h"
 #include "core/platform/Platform.h"
 #include "core/remapper/RemapperSession.h"
 #include "gui/MainWindow.h"
@@ -18,8 +19,9 @@ namespace tarnic {
 
 class AlertPresenter;
 
-// Names the process for the desktop and the store (organization, application, desktop entry)
-// and sets the window icon. Call right after the QApplication is made, before anything else.
+// Names the process for the desktop and the store (organization, application, desktop entry).
+// Call right after the QApplication is made, before anything else. The window icon comes later,
+// from Application::start().
 void setApplicationIdentity();
 
 // The whole program, put together in one place, in start-up order: the store, the platform, the
@@ -47,7 +49,9 @@ public:
 
     // Loads the view (the store's bindings and list, the template, row 0), installs the key
     // observers and the game-detection timer, and shows the window. Launching finishes once the
-    // event loop runs: the trust line, then the version gate. Call once.
+    // event loop runs: the trust line, then the version gate. The application's icon is looked
+    // up in the icon theme once the table has painted: the lookup reads the theme's whole index,
+    // and nothing in the first frame shows the icon. Call once.
     void start();
 
     QSettings& store() { return *store_; }
@@ -68,6 +72,7 @@ private:
     RemapperSession remapperSession_;
     std::unique_ptr<GameDetectionTimer> gameDetectionTimer_;
     MainWindow window_;
+    std::unique_ptr<AfterFirstPaint> afterFirstPaint_;
     MessageBoxAlertPresenter messageBoxes_;
     AppDelegate delegate_;
 };
