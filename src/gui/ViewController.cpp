@@ -86,7 +86,7 @@ void ViewController::viewDidLoad() {
         mainDic = std::move(*stored);
         reloadData();
     }
-    defaults_.setMainDic(mainDic);
+    defaults_.setMainDicIfChanged(mainDic);
 
     QFile templateFile(QStringLiteral(":/defaultkeys"));
     if (templateFile.open(QIODevice::ReadOnly)) {

@@ -48,6 +48,14 @@ void UserDefaults::setMainDic(const std::vector<AbilityRecord>& list) {
     settings_.sync();
 }
 
+void UserDefaults::setMainDicIfChanged(const std::vector<AbilityRecord>& list) {
+    const QVariant stored = abilityListToStored(list);
+    if (settings_.value(kMainDic) != stored) {
+        settings_.setValue(kMainDic, stored);
+        settings_.sync();
+    }
+}
+
 std::optional<InventoryModel> UserDefaults::inventoryModel(int slot) const {
     const QString key = inventoryModelKey(slot);
     const QVariant stored = settings_.value(key);

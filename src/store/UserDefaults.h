@@ -37,6 +37,10 @@ public:
 
     std::optional<std::vector<AbilityRecord>> mainDic() const;
     void setMainDic(const std::vector<AbilityRecord>& list);
+    // setMainDic, unless the store holds exactly this list already: the program stores the list
+    // it shows at every start, most often the very list it has just read, and a rewrite that
+    // changes nothing still costs two flushes to disk.
+    void setMainDicIfChanged(const std::vector<AbilityRecord>& list);
 
     // slot is 1 to 6.
     std::optional<InventoryModel> inventoryModel(int slot) const;
