@@ -62,7 +62,6 @@ TEST(AbilityTableModel, ThumbnailsAreThePicturesScaledSmoothly) {
     initGuiResources();
     const QStringList pictures = QDir(QStringLiteral(":/images")).entryList(QDir::Files);
     ASSERT_GT(pictures.size(), 100);
-    EXPECT_EQ(QDir(QStringLiteral(":/thumbnails")).entryList(QDir::Files), pictures);
     for (const QString& file : pictures) {
         const QString name = file.chopped(4);
         const QImage expected =
