@@ -1,10 +1,12 @@
 #include "app/Application.h"
 
+#include "core/catalogue/Catalogue.h"
 #include "shell/SiteAddress.h"
 #include "store/UserDefaults.h"
 
 #include <QApplication>
 #include <QIcon>
+#include <QThread>
 #include <QTimer>
 
 namespace tarnic {
@@ -15,6 +17,23 @@ const QString kDesktopId = QStringLiteral("org.tarnic.TarnicPro");
 
 // The first frame waits for nothing else; a window that opens covered still gets its icon soon.
 constexpr std::chrono::milliseconds kIconAtTheLatest{500};
+
+// Opens the store on another thread and hands it over to this one, where it is used. A first
+// start's store gets the catalogue there as well, just as the controller would store it when the
+// view loads (it then finds the list already there): the write and its flushes to disk overlap
+// the building of the window instead of holding up the first frame.
+std::future<std::unique_ptr<QSettings>> readStore() {
+    QThread* const user = QThread::currentThread();
+    return std::async(std::launch::async, [user] {
+        std::unique_ptr<QSettings> store = openUserDefaults();
+        UserDefaults defaults(*store);
+        if (!defaults.hasMainDic()) {
+            defaults.setMainDic(all_data());
+        }
+        store->moveToThread(user);
+        return store;
+    });
+}
 
 } // namespace
 
@@ -28,8 +47,9 @@ void setApplicationIdentity() {
 Application::Options::Options() : siteUrl(siteBaseUrl()) {}
 
 Application::Application(Platform platform, Options options)
-    : options_(std::move(options)), store_(openUserDefaults()), platform_(std::move(platform)),
-      controller_(*store_), remapperSession_(controller_.inventoryModels, platform_),
+    : options_(std::move(options)), storeReading_(readStore()), platform_(std::move(platform)),
+      store_(storeReading_.get()), controller_(*store_),
+      remapperSession_(controller_.inventoryModels, platform_),
       delegate_(*platform_.accessibilityTrust, options_.siteUrl,
                 options_.alerts != nullptr ? *options_.alerts : messageBoxes_) {
     QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &delegate_,

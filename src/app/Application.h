@@ -13,6 +13,7 @@
 #include <QString>
 
 #include <chrono>
+#include <future>
 #include <memory>
 
 namespace tarnic {
@@ -65,13 +66,17 @@ public:
 
 private:
     Options options_;
-    std::unique_ptr<QSettings> store_;
+    // The store is read on a thread of its own while the window is built: reading and parsing the
+    // whole list is the largest piece of start-up that needs no GUI. It is waited for before the
+    // controller, the first to use it.
+    std::future<std::unique_ptr<QSettings>> storeReading_;
     Platform platform_;
+    MainWindow window_;
+    std::unique_ptr<QSettings> store_;
     ViewController controller_;
     // After the controller: it reads the controller's six bindings on every key press.
     RemapperSession remapperSession_;
     std::unique_ptr<GameDetectionTimer> gameDetectionTimer_;
-    MainWindow window_;
     std::unique_ptr<AfterFirstPaint> afterFirstPaint_;
     MessageBoxAlertPresenter messageBoxes_;
     AppDelegate delegate_;

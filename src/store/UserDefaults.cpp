@@ -43,6 +43,10 @@ std::optional<std::vector<AbilityRecord>> UserDefaults::mainDic() const {
     return std::get<std::vector<AbilityRecord>>(std::move(read));
 }
 
+bool UserDefaults::hasMainDic() const {
+    return settings_.contains(kMainDic);
+}
+
 void UserDefaults::setMainDic(const std::vector<AbilityRecord>& list) {
     settings_.setValue(kMainDic, abilityListToStored(list));
     settings_.sync();
