@@ -25,9 +25,10 @@ class AlertPresenter;
 // from Application::start().
 void setApplicationIdentity();
 
-// The whole program, put together in one place, in start-up order: the store, the platform, the
-// controller with the remapper session and its game-detection timer, the window with its menus,
-// and the delegate. `main` runs one; the window tests run one on the recording fakes.
+// The whole program, put together in one place, in start-up order: the store (read on a thread of
+// its own meanwhile), the platform, the window with its menus, the controller with the remapper
+// session and its game-detection timer, and the delegate. `main` runs one; the window tests run
+// one on the recording fakes.
 class Application {
 public:
     // What differs between the program and its tests. The program uses the defaults.
