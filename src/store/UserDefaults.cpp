@@ -53,10 +53,8 @@ void UserDefaults::setMainDic(const std::vector<AbilityRecord>& list) {
 }
 
 void UserDefaults::setMainDicIfChanged(const std::vector<AbilityRecord>& list) {
-    const QVariant stored = abilityListToStored(list);
-    if (settings_.value(kMainDic) != stored) {
-        settings_.setValue(kMainDic, stored);
-        settings_.sync();
+    if (!isStoredAbilityList(settings_.value(kMainDic), list)) {
+        setMainDic(list);
     }
 }
 
