@@ -10,6 +10,8 @@
 //   - the peak resident set (wait4's ru_maxrss) and the processor time it used.
 //
 // Usage: bench_startup [runs] [app executable] [bare executable]
+// The machine's load average and the benchmark's nice value (its children inherit it) are
+// printed with the figures: on a shared machine, `nice -n -10 bench_startup` steadies them.
 
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
@@ -395,8 +397,8 @@ int main(int argc, char** argv) {
             std::printf("Start-up under Xvfb %s (no window manager), %d runs per program, "
                         "interleaved; %ld processors\n",
                         server.display.c_str(), runs, sysconf(_SC_NPROCESSORS_ONLN));
-            std::printf("Load average (1, 5, 15 min) before: %s, after: %s\n", loadBefore.c_str(),
-                        loadAfter.c_str());
+            std::printf("Load average (1, 5, 15 min) before: %s, after: %s; nice %d\n",
+                        loadBefore.c_str(), loadAfter.c_str(), getpriority(PRIO_PROCESS, 0));
             std::printf("The app runs as main builds it, without the version gate (no site "
                         "address: a network check after the window is up).\n");
             std::printf("Both quit once their table's first paint has been handled, before what "
