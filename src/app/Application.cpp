@@ -1,19 +1,55 @@
 #include "app/Application.h"
 
+#include "core/catalogue/Catalogue.h"
 #include "shell/SiteAddress.h"
 #include "store/ProgramOptions.h"
 #include "store/UserDefaults.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QIcon>
+#include <QThread>
 #include <QTimer>
 
 namespace tarnic {
 
+namespace {
+
+const QString kDesktopId = QStringLiteral("org.tarnic.TarnicPro");
+
+// The first frame waits for nothing else; a window that opens covered still gets its icon soon.
+constexpr std::chrono::milliseconds kIconAtTheLatest{500};
+
+// Opens the store on another thread and hands it over to this one, where it is used. A first
+// start's store gets the catalogue there as well, just as the controller would store it when the
+// view loads (it then finds the list already there): the write and its flushes to disk overlap
+// the building of the window instead of holding up the first frame.
+std::future<std::unique_ptr<QSettings>> readStore() {
+    QThread* const user = QThread::currentThread();
+    return std::async(std::launch::async, [user] {
+        std::unique_ptr<QSettings> store = openUserDefaults();
+        UserDefaults defaults(*store);
+        if (!defaults.hasMainDic()) {
+            defaults.setMainDic(all_data());
+        }
+        store->moveToThread(user);
+        return store;
+    });
+}
+
+} // namespace
+
+void setApplicationIdentity() {
+    QApplication::setOrganizationName(QStringLiteral("Tarnic"));
+    QApplication::setApplicationName(QStringLiteral("Tarnic Pro"));
+    // Ties the window to its launcher and icon on the desktop.
+    QGuiApplication::setDesktopFileName(kDesktopId);
+}
+
 Application::Options::Options() : siteUrl(siteBaseUrl()) {}
 
 Application::Application(Platform platform, Options options)
-    : options_(std::move(options)), store_(openUserDefaults()),
-      programOptions_(openProgramOptions()), platform_(std::move(platform)),
+    : options_(std::move(options)), storeReading_(readStore()), platform_(std::move(platform)),
+      store_(storeReading_.get()), programOptions_(openProgramOptions()),
       controller_(*store_, *programOptions_),
       remapperSession_(controller_.inventoryModels, controller_.inventoryOptions, platform_),
       delegate_(*platform_.accessibilityTrust, options_.siteUrl,
@@ -37,6 +73,10 @@ void Application::start() {
                                                                options_.gameDetectionInterval);
     window_.show();
     controller_.viewDidAppear();
+    afterFirstPaint_ =
+        std::make_unique<AfterFirstPaint>(*controller_.tableView->viewport(), kIconAtTheLatest, [] {
+            QApplication::setWindowIcon(QIcon::fromTheme(kDesktopId));
+        });
     QTimer::singleShot(0, &delegate_, &AppDelegate::applicationDidFinishLaunching);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/AfterFirstPaint.h"
 #include "core/platform/Platform.h"
 #include "core/remapper/RemapperSession.h"
 #include "gui/MainWindow.h"
@@ -12,16 +13,22 @@
 #include <QString>
 
 #include <chrono>
+#include <future>
 #include <memory>
 
 namespace tarnic {
 
 class AlertPresenter;
 
-// The whole program, put together in one place, in start-up order: the store and the options
-// file, the platform, the controller with the remapper session and its game-detection timer, the
-// window with its menus, and the delegate. `main` runs one; the window tests run one on the
-// recording fakes.
+// Names the process for the desktop and the store (organization, application, desktop entry).
+// Call right after the QApplication is made, before anything else. The window icon comes later,
+// from Application::start().
+void setApplicationIdentity();
+
+// The whole program, put together in one place, in start-up order: the store (read on a thread of
+// its own meanwhile) and the options file, the platform, the window with its menus, the controller
+// with the remapper session and its game-detection timer, and the delegate. `main` runs one; the
+// window tests run one on the recording fakes.
 class Application {
 public:
     // What differs between the program and its tests. The program uses the defaults.
@@ -44,7 +51,9 @@ public:
 
     // Loads the view (the store's bindings and list, the template, row 0), installs the key
     // observers and the game-detection timer, and shows the window. Launching finishes once the
-    // event loop runs: the trust line, then the version gate. Call once.
+    // event loop runs: the trust line, then the version gate. The application's icon is looked
+    // up in the icon theme once the table has painted: the lookup reads the theme's whole index,
+    // and nothing in the first frame shows the icon. Call once.
     void start();
 
     QSettings& store() { return *store_; }
@@ -58,15 +67,20 @@ public:
 
 private:
     Options options_;
+    // The store is read on a thread of its own while the window is built: reading and parsing the
+    // whole list is the largest piece of start-up that needs no GUI. It is waited for before the
+    // controller, the first to use it.
+    std::future<std::unique_ptr<QSettings>> storeReading_;
+    Platform platform_;
+    MainWindow window_;
     std::unique_ptr<QSettings> store_;
     std::unique_ptr<QSettings> programOptions_;
-    Platform platform_;
     ViewController controller_;
     // After the controller: it reads the controller's six bindings and the options on every key
     // press.
     RemapperSession remapperSession_;
     std::unique_ptr<GameDetectionTimer> gameDetectionTimer_;
-    MainWindow window_;
+    std::unique_ptr<AfterFirstPaint> afterFirstPaint_;
     MessageBoxAlertPresenter messageBoxes_;
     AppDelegate delegate_;
 };

@@ -2,6 +2,7 @@
 
 #include "core/editor/ClashRule.h"
 #include "gui/GuiResources.h"
+#include "gui/Pictures.h"
 
 #include <QApplication>
 #include <QPixmap>
@@ -18,6 +19,14 @@ void AbilityTableModel::setColumns(const QStringList& identifiers, const QString
     beginResetModel();
     identifiers_ = identifiers;
     titles_ = titles;
+    columns_.clear();
+    for (const QString& identifier : identifiers) {
+        Column column;
+        column.key = identifier.toStdString();
+        column.isKey = column.key == def_hotkey || column.key == new_hotkey;
+        column.isName = column.key == name_spell;
+        columns_.push_back(std::move(column));
+    }
     rows_ = static_cast<int>(list_.size());
     endResetModel();
 }
@@ -92,18 +101,17 @@ QVariant AbilityTableModel::data(const QModelIndex& index, int role) const {
         static_cast<std::size_t>(index.row()) >= list_.size()) {
         return {};
     }
-    const std::string key = identifiers_.at(index.column()).toStdString();
-    if (key == new_hotkey && (role == Qt::DecorationRole || role == Qt::ToolTipRole)) {
+    const Column& column = columns_.at(static_cast<std::size_t>(index.column()));
+    if (column.key == new_hotkey && (role == Qt::DecorationRole || role == Qt::ToolTipRole)) {
         return clashMark(index.row(), role);
     }
-    const bool isKey = key == def_hotkey || key == new_hotkey;
-    if (role == Qt::TextAlignmentRole && isKey) {
+    if (role == Qt::TextAlignmentRole && column.isKey) {
         return QVariant::fromValue(Qt::Alignment(Qt::AlignCenter));
     }
-    if (role != Qt::DisplayRole && !(role == Qt::DecorationRole && key == name_spell)) {
+    if (role != Qt::DisplayRole && !(role == Qt::DecorationRole && column.isName)) {
         return {};
     }
-    const std::string* value = field(list_[static_cast<std::size_t>(index.row())], key);
+    const std::string* value = field(list_[static_cast<std::size_t>(index.row())], column.key);
     if (value == nullptr) {
         return {};
     }
@@ -112,14 +120,11 @@ QVariant AbilityTableModel::data(const QModelIndex& index, int role) const {
 }
 
 QPixmap AbilityTableModel::thumbnail(const QString& name) const {
-    // A small copy of the ability's picture beside its name; drawn rows only, so it stays cheap.
+    // A small copy of the ability's picture beside its name; drawn rows only, and drawn small at
+    // build time, so that the first rows cost little to show.
     auto it = thumbnails_.find(name);
     if (it == thumbnails_.end()) {
-        const QPixmap picture(QStringLiteral(":/images/") + name + QStringLiteral(".png"));
-        it = thumbnails_.insert(name, picture.isNull() ? picture
-                                                       : picture.scaled(kThumbnail, kThumbnail,
-                                                                        Qt::KeepAspectRatio,
-                                                                        Qt::SmoothTransformation));
+        it = thumbnails_.insert(name, tarnic::thumbnail(name));
     }
     return it.value();
 }

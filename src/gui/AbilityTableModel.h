@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/record/AbilityRecord.h"
+#include "gui/Pictures.h"
 
 #include <QAbstractTableModel>
 #include <QHash>
@@ -9,6 +10,7 @@
 #include <QStringList>
 
 #include <cstddef>
+#include <string>
 #include <vector>
 
 namespace tarnic {
@@ -43,14 +45,22 @@ public:
                         int role = Qt::DisplayRole) const override;
 
     // Edge of the ability pictures shown in the table, in pixels.
-    static constexpr int kThumbnail = 20;
+    static constexpr int kThumbnail = kThumbnailEdge;
 
 private:
     QPixmap thumbnail(const QString& name) const;
     QVariant clashMark(int row, int role) const;
 
+    // What each column shows, worked out once: the delegate asks for a dozen roles per cell.
+    struct Column {
+        std::string key;
+        bool isKey = false;  // a hotkey: centred
+        bool isName = false; // the ability's name: with its picture
+    };
+
     const std::vector<AbilityRecord>& list_;
     QStringList identifiers_;
+    std::vector<Column> columns_;
     QStringList titles_;
     // The row count the views were last told; the list may already have changed.
     int rows_ = 0;

@@ -1,6 +1,9 @@
 #include "gui/AbilityTableView.h"
 
 #include <QHeaderView>
+#include <QAbstractItemDelegate>
+
+#include <algorithm>
 
 namespace tarnic {
 
@@ -27,6 +30,65 @@ void AbilityTableView::setModel(QAbstractItemModel* model) {
     if (model != nullptr && model->columnCount() > 0) {
         header->setSectionResizeMode(0, QHeaderView::Stretch);
     }
+}
+
+namespace {
+
+// A cell whose width is its text's alone, for a given delegate and style.
+bool isPlainText(const QModelIndex& index) {
+    for (int role : {Qt::DecorationRole, Qt::FontRole, Qt::CheckStateRole, Qt::SizeHintRole}) {
+        if (index.data(role).isValid()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+int AbilityTableView::sizeHintForColumn(int column) const {
+    const QAbstractItemModel* source = model();
+    if (source == nullptr) {
+        return -1;
+    }
+    const int rows = source->rowCount(rootIndex());
+    const int precision = horizontalHeader()->resizeContentsPrecision();
+    if (precision > 0 && rows > precision) {
+        return QTableView::sizeHintForColumn(column);
+    }
+    ensurePolished();
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    const MeasureContext context{
+        option.font,          style(),       option.decorationSize, option.features,
+        option.textElideMode, option.locale, option.direction};
+    if (measuredIn_ != context) {
+        measuredWidths_.clear();
+        measuredIn_ = context;
+    }
+    int hint = 0;
+    for (int row = 0; row < rows; ++row) {
+        if (isRowHidden(row)) {
+            continue;
+        }
+        const QModelIndex index = source->index(row, column, rootIndex());
+        if (indexWidget(index) != nullptr || isPersistentEditorOpen(index)) {
+            // An editor's own size counts too; leave that to QTableView.
+            return QTableView::sizeHintForColumn(column);
+        }
+        QAbstractItemDelegate* delegate = itemDelegateForIndex(index);
+        if (!isPlainText(index)) {
+            hint = std::max(hint, delegate->sizeHint(option, index).width());
+            continue;
+        }
+        const std::pair<const void*, QString> key(delegate, index.data(Qt::DisplayRole).toString());
+        auto width = measuredWidths_.constFind(key);
+        if (width == measuredWidths_.constEnd()) {
+            width = measuredWidths_.insert(key, delegate->sizeHint(option, index).width());
+        }
+        hint = std::max(hint, width.value());
+    }
+    return showGrid() ? hint + 1 : hint;
 }
 
 QItemSelectionModel::SelectionFlags AbilityTableView::selectionCommand(const QModelIndex& index,

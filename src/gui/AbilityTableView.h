@@ -1,6 +1,14 @@
 #pragma once
 
+#include <QFont>
+#include <QHash>
+#include <QLocale>
+#include <QSize>
+#include <QStyleOptionViewItem>
 #include <QTableView>
+
+#include <optional>
+#include <utility>
 
 namespace tarnic {
 
@@ -14,8 +22,33 @@ public:
     void setModel(QAbstractItemModel* model) override;
 
 protected:
+    // What QTableView measures, found faster: the header fits the owner and key columns to their
+    // contents, and asks for that when the table is first shown (three times over) and after each
+    // reload; measuring each of the 160 rows with the delegate (a text layout per cell) was the
+    // bulk of the work before the first paint. A plain-text cell's width depends on its text and
+    // on the delegate and style it is measured with, so each text is measured once and its width
+    // kept until the font or style changes. Cells with a picture, a font, a check box or a size of
+    // their own are measured one by one; so is a model with more rows than the header's resize
+    // precision, which QTableView samples.
+    int sizeHintForColumn(int column) const override;
+
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event) const override;
+
+private:
+    // What, besides its text and delegate, a plain-text cell's width depends on.
+    struct MeasureContext {
+        QFont font;
+        const QStyle* style = nullptr;
+        QSize decorationSize;
+        QStyleOptionViewItem::ViewItemFeatures features;
+        Qt::TextElideMode elide = Qt::ElideRight;
+        QLocale locale;
+        Qt::LayoutDirection direction = Qt::LeftToRight;
+        bool operator==(const MeasureContext&) const = default;
+    };
+    mutable std::optional<MeasureContext> measuredIn_;
+    mutable QHash<std::pair<const void*, QString>, int> measuredWidths_;
 };
 
 // Selects exactly `row`, replacing the selection; whoever watches the selection hears of it once.

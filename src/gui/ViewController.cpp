@@ -14,6 +14,7 @@
 #include "gui/GuiResources.h"
 #include "gui/Outlet.h"
 #include "shell/MessageBoxAlertPresenter.h"
+#include "gui/Pictures.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -44,7 +45,7 @@ std::optional<std::string> selectedTitle(const QComboBox& popup) {
 }
 
 QPixmap pictureNamed(const std::string& name) {
-    return QPixmap(QStringLiteral(":/images/") + qs(name) + QStringLiteral(".png"));
+    return picture(qs(name));
 }
 
 // The game's own file is about 60 kB; anything past this is not a hotkey file, and reading stops
@@ -222,7 +223,8 @@ void ViewController::allQWER() {
 }
 
 void ViewController::storeMainDic() {
-    defaults_.setMainDic(mainDic);
+    // An unchanged list is not written again: that would only cost flushes to disk at every start.
+    defaults_.setMainDicIfChanged(mainDic);
     storedDic_ = mainDic;
 }
 

@@ -1,4 +1,3 @@
-#include "store/PlistFormat.h"
 #include "store/UserDefaults.h"
 
 #include <QDateTime>
@@ -22,18 +21,7 @@ void tell(const QString& text) {
 // A store file that is not a property list with a dictionary at the top would read as an empty
 // store, and QSettings would replace it at the next write. Moving it aside first keeps the
 // player's file byte for byte; an earlier copy is never overwritten.
-void setAsideIfUnreadable(const QString& path) {
-    QFile file(path);
-    if (!file.exists() || !file.open(QIODevice::ReadOnly)) {
-        // Missing: a first start. Unreadable for the system: QSettings cannot read or replace
-        // it either, so it is safe where it is.
-        return;
-    }
-    const QByteArray bytes = file.readAll();
-    file.close();
-    if (bytes.isEmpty() || settingsFromPlist(bytes)) {
-        return;
-    }
+void setAside(const QString& path) {
     const QString stamp = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
     const QString stem = path + QStringLiteral(".unreadable-") + stamp;
     for (int attempt = 1; attempt <= 1000; ++attempt) {
@@ -69,8 +57,14 @@ QString userDefaultsPath() {
 
 std::unique_ptr<QSettings> openUserDefaults() {
     const QString path = userDefaultsPath();
-    setAsideIfUnreadable(path);
+    // QSettings reads the file once, here; a file it cannot parse (an empty or unreadable one is
+    // no such file: QSettings reads neither) leaves it with a format error, and nothing written.
     auto settings = std::make_unique<QSettings>(path, plistSettingsFormat());
+    if (settings->status() == QSettings::FormatError) {
+        settings.reset();
+        setAside(path);
+        settings = std::make_unique<QSettings>(path, plistSettingsFormat());
+    }
     // Every write goes to a temporary file that replaces the store only when complete.
     settings->setAtomicSyncRequired(true);
     return settings;

@@ -2,7 +2,9 @@
 
 #include "store/IntegerValue.h"
 
+#include <QAnyStringView>
 #include <QStringList>
+#include <QUtf8StringView>
 
 #include <optional>
 
@@ -130,6 +132,41 @@ QVariant inventoryModelToStored(const InventoryModel& model) {
         items.append(QVariant::fromValue<qint64>(number));
     }
     return items;
+}
+
+bool isStoredAbilityList(const QVariant& value, const std::vector<AbilityRecord>& list) {
+    if (value.typeId() != QMetaType::QVariantList) {
+        return false;
+    }
+    const QVariantList items = value.toList();
+    if (static_cast<std::size_t>(items.size()) != list.size()) {
+        return false;
+    }
+    auto same = [](const QString& stored, const std::string& kept) {
+        return QAnyStringView::equal(stored, QUtf8StringView(kept));
+    };
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        const QVariant& item = items[static_cast<qsizetype>(i)];
+        if (item.typeId() != QMetaType::QVariantMap) {
+            return false;
+        }
+        const QVariantMap map = item.toMap();
+        const AbilityRecord& record = list[i];
+        if (static_cast<std::size_t>(map.size()) != record.size()) {
+            return false;
+        }
+        // Both are sorted by key; a key outside ASCII might sort differently in the two, which
+        // only makes this say "different", and the list is stored again.
+        auto stored = map.cbegin();
+        for (const auto& [key, text] : record) {
+            if (stored.value().typeId() != QMetaType::QString || !same(stored.key(), key) ||
+                !same(*static_cast<const QString*>(stored.value().constData()), text)) {
+                return false;
+            }
+            ++stored;
+        }
+    }
+    return true;
 }
 
 } // namespace tarnic

@@ -27,6 +27,9 @@ std::string storedTypeName(const QVariant& value);
 // An array of dictionaries whose values are all strings.
 std::variant<std::vector<AbilityRecord>, WrongType> abilityListFromStored(const QVariant& value);
 QVariant abilityListToStored(const std::vector<AbilityRecord>& list);
+// Whether `value` is exactly abilityListToStored(list), found without building that: true only
+// when it is a QVariantList of QVariantMaps of QStrings with the list's very keys and texts.
+bool isStoredAbilityList(const QVariant& value, const std::vector<AbilityRecord>& list);
 
 // An array of integers, of any length and range.
 std::variant<InventoryModel, WrongType> inventoryModelFromStored(const QVariant& value);

@@ -43,9 +43,19 @@ std::optional<std::vector<AbilityRecord>> UserDefaults::mainDic() const {
     return std::get<std::vector<AbilityRecord>>(std::move(read));
 }
 
+bool UserDefaults::hasMainDic() const {
+    return settings_.contains(kMainDic);
+}
+
 void UserDefaults::setMainDic(const std::vector<AbilityRecord>& list) {
     settings_.setValue(kMainDic, abilityListToStored(list));
     settings_.sync();
+}
+
+void UserDefaults::setMainDicIfChanged(const std::vector<AbilityRecord>& list) {
+    if (!isStoredAbilityList(settings_.value(kMainDic), list)) {
+        setMainDic(list);
+    }
 }
 
 std::optional<InventoryModel> UserDefaults::inventoryModel(int slot) const {

@@ -36,7 +36,13 @@ public:
     explicit UserDefaults(QSettings& settings);
 
     std::optional<std::vector<AbilityRecord>> mainDic() const;
+    // Whether the store holds a list at all (of whatever type).
+    bool hasMainDic() const;
     void setMainDic(const std::vector<AbilityRecord>& list);
+    // setMainDic, unless the store holds exactly this list already: the program stores the list
+    // it shows at every start, most often the very list it has just read, and a rewrite that
+    // changes nothing still costs two flushes to disk.
+    void setMainDicIfChanged(const std::vector<AbilityRecord>& list);
 
     // slot is 1 to 6.
     std::optional<InventoryModel> inventoryModel(int slot) const;

@@ -3,7 +3,11 @@
 #include "core/catalogue/Catalogue.h"
 #include "core/editor/RecordFactory.h"
 
+#include "gui/GuiResources.h"
+#include "gui/Pictures.h"
+
 #include <QAbstractItemModelTester>
+#include <QDir>
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
@@ -52,6 +56,28 @@ TEST(AbilityTableModel, AbilityNamesComeWithTheirPictureAndKeysAreCentred) {
     EXPECT_EQ(model.index(0, 3).data(Qt::TextAlignmentRole).value<Qt::Alignment>(),
               Qt::AlignCenter);
     EXPECT_FALSE(model.index(0, 0).data(Qt::TextAlignmentRole).isValid());
+}
+
+TEST(AbilityTableModel, ThumbnailsAreThePicturesScaledSmoothly) {
+    initGuiResources();
+    const QStringList pictures = QDir(QStringLiteral(":/images")).entryList(QDir::Files);
+    ASSERT_GT(pictures.size(), 100);
+    for (const QString& file : pictures) {
+        const QString name = file.chopped(4);
+        const QImage expected =
+            QPixmap(QStringLiteral(":/images/") + file)
+                .scaled(AbilityTableModel::kThumbnail, AbilityTableModel::kThumbnail,
+                        Qt::KeepAspectRatio, Qt::SmoothTransformation)
+                .toImage();
+        const QImage shown = thumbnail(name).toImage();
+        ASSERT_FALSE(expected.isNull()) << file.toStdString();
+        EXPECT_EQ(shown.format(), expected.format()) << file.toStdString();
+        EXPECT_EQ(shown, expected) << file.toStdString();
+        EXPECT_EQ(picture(name).toImage(), QPixmap(QStringLiteral(":/images/") + file).toImage())
+            << file.toStdString();
+    }
+    EXPECT_TRUE(thumbnail(QStringLiteral("Nothing Drawn For This")).isNull());
+    EXPECT_TRUE(picture(QStringLiteral("Nothing Drawn For This")).isNull());
 }
 
 TEST(AbilityTableModel, HeaderTitlesFollowTheColumns) {

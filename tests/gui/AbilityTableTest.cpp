@@ -1,8 +1,11 @@
 #include "EditorFixture.h"
 
 #include "core/catalogue/Catalogue.h"
+#include "core/editor/GridLayout.h"
 #include "core/editor/RecordFactory.h"
+#include "gui/AbilityTableView.h"
 
+#include <QHeaderView>
 #include <QTest>
 
 namespace tarnic::testing {
@@ -17,6 +20,14 @@ QImage pictureFile(const QString& name) {
 QImage shown(const QLabel& label) {
     return label.pixmap().toImage().convertToFormat(QImage::Format_ARGB32);
 }
+
+// The table as the window has it, with QTableView's own measure of a column (every row through
+// the delegate) at hand to compare with.
+class MeasuredTable : public AbilityTableView {
+public:
+    int measured(int column) const { return sizeHintForColumn(column); }
+    int everyRow(int column) const { return QTableView::sizeHintForColumn(column); }
+};
 
 class AbilityTable : public EditorFixture {
 protected:
@@ -183,6 +194,49 @@ TEST_F(AbilityTable, ACellOfAKeyTheRecordLacksIsEmpty) {
     // Move has no owner.
     EXPECT_FALSE(vc().tableModel().index(0, 1).data().isValid());
     EXPECT_EQ(vc().tableModel().index(0, 2).data().toString(), "M");
+}
+
+TEST_F(AbilityTable, ColumnsFitTheirContentsAsEveryRowMeasuredWould) {
+    launch();
+    std::vector<AbilityRecord> list = all_data();
+    list.push_back(
+        makeRecord("A Rather Long Ability Name Of Its Own", "An Owner Nobody Else Has", "Y"));
+    allQWER(list);
+    list[3][new_hotkey] = "Escape";
+    AbilityTableModel model(list);
+    model.setColumns(vc().tableModel().columnIdentifiers(), {"Ability", "Owner", "Default", "New"});
+    MeasuredTable table;
+    table.setModel(&model);
+    table.resize(900, 600);
+    for (bool shown : {false, true}) {
+        if (shown) {
+            table.show();
+            ASSERT_TRUE(QTest::qWaitForWindowExposed(&table));
+        }
+        for (int column = 0; column < model.columnCount(); ++column) {
+            EXPECT_GT(table.measured(column), 0) << column;
+            EXPECT_EQ(table.measured(column), table.everyRow(column)) << column;
+        }
+    }
+    auto expectSameWidths = [&](const char* after) {
+        for (int column = 0; column < model.columnCount(); ++column) {
+            EXPECT_EQ(table.measured(column), table.everyRow(column)) << after << ", " << column;
+        }
+    };
+    table.setRowHidden(static_cast<int>(list.size()) - 1, true);
+    expectSameWidths("a hidden row");
+    // Widths measured before are kept; a change of text, font or icon size measures anew.
+    list[5][new_hotkey] = "Shift+Num 7";
+    model.reload();
+    expectSameWidths("a new text");
+    QFont larger = table.font();
+    larger.setPointSize(larger.pointSize() + 6);
+    const int before = table.measured(1);
+    table.setFont(larger);
+    EXPECT_GT(table.measured(1), before);
+    expectSameWidths("a larger font");
+    table.setIconSize(QSize(40, 40));
+    expectSameWidths("larger pictures");
 }
 
 using AbilityTableDeathTest = AbilityTable;

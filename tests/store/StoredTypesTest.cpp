@@ -61,6 +61,41 @@ TEST(StoredTypes, AbilityListNamesWhatWasFoundInstead) {
     EXPECT_EQ(foundForList(QVariantList{}), "(accepted)");
 }
 
+TEST(StoredTypes, AStoredListIsRecognisedOnlyWhenItIsExactlyTheList) {
+    const AbilityRecord general{{"name", "Attack"}, {"def hotkey", "A"}, {"new hotkey", ""}};
+    const AbilityRecord owned{{"name", "Holy Light"}, {"name parent", "Paladin"}};
+    const AbilityRecord accented{{"name", "Bénédiction"}, {"zèle", "Ω"}};
+    const std::vector<AbilityRecord> list{general, owned, accented, AbilityRecord{}};
+    const QVariant stored = abilityListToStored(list);
+    EXPECT_TRUE(isStoredAbilityList(stored, list));
+    EXPECT_TRUE(isStoredAbilityList(QVariantList{}, {}));
+
+    auto changed = list;
+    changed[1]["name parent"] = "Paladine";
+    EXPECT_FALSE(isStoredAbilityList(stored, changed));
+    changed = list;
+    changed[0].erase("new hotkey");
+    EXPECT_FALSE(isStoredAbilityList(stored, changed));
+    changed = list;
+    changed[0]["new hotkey "] = "";
+    EXPECT_FALSE(isStoredAbilityList(stored, changed));
+    changed = list;
+    changed.pop_back();
+    EXPECT_FALSE(isStoredAbilityList(stored, changed));
+
+    // The same texts in other types are not what the list would store.
+    QVariantList items = stored.toList();
+    QVariantMap first = items[0].toMap();
+    first[QStringLiteral("def hotkey")] = QByteArray("A");
+    items[0] = first;
+    EXPECT_FALSE(isStoredAbilityList(items, list));
+    EXPECT_FALSE(isStoredAbilityList(QStringList{}, {}));
+    EXPECT_FALSE(isStoredAbilityList(QVariant(), {}));
+    QVariantList hashed = stored.toList();
+    hashed[3] = QVariantHash{};
+    EXPECT_FALSE(isStoredAbilityList(hashed, list));
+}
+
 TEST(StoredTypes, InventoryModelIsAnyArrayOfIntegers) {
     const InventoryModel model{3, 0, 12};
     auto read = inventoryModelFromStored(inventoryModelToStored(model));

@@ -3,10 +3,13 @@
 #include "store/UserDefaults.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <gtest/gtest.h>
+
 #include <plist/plist.h>
+#include <sys/stat.h>
 
 #include <cstdint>
 #include <ostream>
@@ -81,6 +84,38 @@ TEST(UserDefaults, MainDicIsWrittenAtOnce) {
     ASSERT_EQ(stored.size(), 1);
     EXPECT_EQ(stored[0].toMap().value(QStringLiteral("name parent")).toString(),
               QStringLiteral("Paladin"));
+}
+
+TEST(UserDefaults, TheListAlreadyHeldIsNotWrittenAgain) {
+    StoreFolder folder;
+    const std::vector<AbilityRecord> list{kAttack, kHolyLight, kEmptyParent};
+    {
+        auto settings = openUserDefaults();
+        UserDefaults(*settings).setMainDicIfChanged(list);
+    }
+    const QByteArray first = folder.readStore();
+    ASSERT_TRUE(settingsFromPlist(first).has_value());
+    // A rewrite replaces the file with a new one; the list already held leaves it in place.
+    const auto inode = [&] {
+        struct stat status {};
+        return ::stat(QFile::encodeName(folder.storePath()).constData(), &status) == 0
+                   ? status.st_ino
+                   : ino_t{0};
+    };
+    const ino_t before = inode();
+    {
+        auto settings = openUserDefaults();
+        UserDefaults(*settings).setMainDicIfChanged(list);
+    }
+    EXPECT_EQ(inode(), before);
+    EXPECT_EQ(folder.readStore(), first);
+    {
+        auto settings = openUserDefaults();
+        UserDefaults(*settings).setMainDicIfChanged({kHolyLight});
+    }
+    EXPECT_NE(inode(), before);
+    auto settings = openUserDefaults();
+    EXPECT_EQ(UserDefaults(*settings).mainDic(), std::vector<AbilityRecord>{kHolyLight});
 }
 
 TEST(UserDefaults, SomeInventorySlotsStoredOthersAbsent) {

@@ -1,17 +1,22 @@
 // Draws the pictures of the hotkey editor: an emblem for every ability name and every owner name
 // of the catalogue, and the "empty" picture, all drawn here from the name alone. Writes the PNGs
-// and a Qt resource file that serves each one as :/images/<name>.png.
+// and a Qt resource file that serves each one as :/images/<name>.png, and the small copies the
+// ability table shows in the form gui/Pictures.h describes (:/thumbnails/names and
+// :/thumbnails/pixels).
 //
 // Usage: tarnic-imagegen <output folder>
 
 #include "core/catalogue/Catalogue.h"
+#include "gui/Pictures.h"
 
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QImage>
+#include <QImageReader>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmap>
 #include <QRadialGradient>
 #include <QSaveFile>
 
@@ -20,6 +25,7 @@
 #include <cstdio>
 #include <map>
 #include <numbers>
+#include <utility>
 
 namespace {
 
@@ -183,6 +189,18 @@ QString xmlEscaped(QString text) {
         .replace(QLatin1Char('"'), QStringLiteral("&quot;"));
 }
 
+// The table's small copy of a picture file, made as the table used to make it when it showed the
+// row: the file read into a pixmap, then scaled smoothly. Drawing it here spares the program a
+// decoding of the full picture for every row it shows first.
+QImage thumbnailOf(const QString& pictureFile) {
+    QImageReader reader(pictureFile, "png");
+    reader.setAutoDetectImageFormat(false);
+    return QPixmap::fromImage(reader.read())
+        .scaled(tarnic::kThumbnailEdge, tarnic::kThumbnailEdge, Qt::KeepAspectRatio,
+                Qt::SmoothTransformation)
+        .toImage();
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -209,8 +227,9 @@ int main(int argc, char** argv) {
     }
     pictures[QStringLiteral("empty")] = Kind::Empty;
 
-    QString qrc = QStringLiteral("<!DOCTYPE RCC>\n<RCC version=\"1.0\">\n"
-                                 "    <qresource prefix=\"/images\">\n");
+    QString pictureEntries;
+    QByteArray thumbnailNames;
+    QByteArray thumbnailPixels;
     int n = 0;
     for (const auto& [name, kind] : pictures) {
         const QString file = QStringLiteral("picture%1.png").arg(n++, 3, 10, QLatin1Char('0'));
@@ -218,10 +237,42 @@ int main(int argc, char** argv) {
             std::fprintf(stderr, "tarnic-imagegen: cannot write %s\n", qPrintable(file));
             return 1;
         }
-        qrc += QStringLiteral("        <file alias=\"%1.png\">%2</file>\n")
-                   .arg(xmlEscaped(name), file);
+        const QImage thumbnail =
+            thumbnailOf(out.filePath(file)).convertToFormat(QImage::Format_RGBA8888_Premultiplied);
+        if (thumbnail.width() != tarnic::kThumbnailEdge ||
+            thumbnail.height() != tarnic::kThumbnailEdge) {
+            std::fprintf(stderr, "tarnic-imagegen: %s is not square\n", qPrintable(file));
+            return 1;
+        }
+        for (int y = 0; y < thumbnail.height(); ++y) {
+            thumbnailPixels.append(reinterpret_cast<const char*>(thumbnail.constScanLine(y)),
+                                   static_cast<qsizetype>(thumbnail.width()) * 4);
+        }
+        thumbnailNames += name.toUtf8() + '\n';
+        pictureEntries += QStringLiteral("        <file alias=\"%1.png\">%2</file>\n")
+                              .arg(xmlEscaped(name), file);
     }
-    qrc += QStringLiteral("    </qresource>\n</RCC>\n");
+    for (const auto& [file, bytes] :
+         {std::pair{QStringLiteral("thumbnails.names"), thumbnailNames},
+          std::pair{QStringLiteral("thumbnails.pixels"), thumbnailPixels}}) {
+        QSaveFile data(out.filePath(file));
+        if (!data.open(QIODevice::WriteOnly) || data.write(bytes) != bytes.size() ||
+            !data.commit()) {
+            std::fprintf(stderr, "tarnic-imagegen: cannot write %s\n", qPrintable(file));
+            return 1;
+        }
+    }
+    // The pixels stay uncompressed, so that the program reads them in place.
+    const QString qrc =
+        QStringLiteral("<!DOCTYPE RCC>\n<RCC version=\"1.0\">\n"
+                       "    <qresource prefix=\"/images\">\n") +
+        pictureEntries +
+        QStringLiteral("    </qresource>\n"
+                       "    <qresource prefix=\"/thumbnails\">\n"
+                       "        <file alias=\"names\">thumbnails.names</file>\n"
+                       "        <file alias=\"pixels\" compression-algorithm=\"none\">"
+                       "thumbnails.pixels</file>\n"
+                       "    </qresource>\n</RCC>\n");
 
     QSaveFile qrcFile(out.filePath(QStringLiteral("images.qrc")));
     if (!qrcFile.open(QIODevice::WriteOnly) || qrcFile.write(qrc.toUtf8()) < 0 ||
