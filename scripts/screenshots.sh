@@ -116,4 +116,4 @@ settle
 xdotool type --delay 80 "Z"
 xdotool key Return
 settle
-shot docs/screenshots/inventory.png "316x236+$((cx + 620))+$((cy + 252))"
+shot docs/screenshots/inventory.png "316x320+$((cx + 620))+$((cy + 252))"
