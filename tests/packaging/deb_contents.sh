@@ -43,9 +43,10 @@ page=$(MANWIDTH=80 man -l "$scratch/root/usr/share/man/man1/tarnic-pro.1.gz" 2>&
 grep -Eq 'tarnic-pro +- hotkey editor' <<<"$page" || fail "tarnic-pro(1) has no NAME line"
 # The program carries nothing for tests or benchmarks: no switch to the recording fakes, no exit for
 # the start-up benchmark.
-# (XTestFakeKeyEvent is the X server's call for typing a key, not a fake of ours.)
-switches=$(strings "$scratch/root/usr/bin/tarnic-pro" | grep -E 'TARNIC_[A-Z_]+|BENCH|[Ff]ake' |
-    grep -v '^XTestFakeKeyEvent$' || true)
+# (XTestFakeKeyEvent is the X server's call for typing a key, not a fake of ours, and
+# _TARNIC_PRO_KEYPAD_KEYCODES names the root-window note on the keycodes the program claims.)
+switches=$(strings "$scratch/root/usr/bin/tarnic-pro" | grep -E '(^|[^_])TARNIC_[A-Z_]+|BENCH|[Ff]ake' |
+    grep -v -e '^XTestFakeKeyEvent$' -e '^_TARNIC_PRO_KEYPAD_KEYCODES$' || true)
 [ -z "$switches" ] || fail "the program holds test or benchmark switches: $switches"
 # A home page is only named for a real site, never for the loopback copy of it.
 homepage=$(field Homepage)
