@@ -77,7 +77,10 @@ owner_of() {
 # Read whole, never cut short: a reader that stops early would kill the writer with SIGPIPE.
 resolved=$(ldd "$exe") || fail "ldd cannot resolve the program's libraries"
 while read -r soname; do
-    lib=$(awk -v s="$soname" '$1 == s && $2 == "=>" && !found { print $3; found = 1 }' <<<"$resolved")
+    # ldd writes "soname => path (address)", but the dynamic loader (named once the program uses
+    # thread-local storage) as "path (address)".
+    lib=$(awk -v s="$soname" '!found && (($1 == s && $2 == "=>" && $3 ~ /^\//) ||
+        ($1 ~ ("/" s "$") && $2 ~ /^\(/)) { print ($2 == "=>" ? $3 : $1); found = 1 }' <<<"$resolved")
     [ -n "$lib" ] && [ -e "$lib" ] || fail "the program needs $soname, which this system does not have"
     owner=$(owner_of "$lib")
     [ -n "$owner" ] || fail "no Debian package owns $lib (needed as $soname)"
