@@ -330,6 +330,9 @@ TEST_F(X11FrontmostWatcherTest, FollowsTheActiveWindowFromEventsAlone) {
     EXPECT_TRUE(processUntil([&] { return watcher->frontmostIdentifier() == "notepad.exe"; }, 2s));
     ASSERT_TRUE(driver.focus(gameWindow, 5s));
     EXPECT_TRUE(processUntil([&] { return watcher->frontmostIdentifier() == war3ID; }, 2s));
+    // The window manager may say "no window" for an instant between two windows; that is a real
+    // change too, but not one this test makes.
+    std::erase(changes, std::string("none"));
     EXPECT_EQ(changes, (std::vector<std::string>{war3ID, "notepad.exe", war3ID}));
 }
 
@@ -359,7 +362,9 @@ TEST_F(X11FrontmostWatcherTest, AChangeThatArrivedUnreadIsTakenInBeforeTheAnswer
     const auto deadline = std::chrono::steady_clock::now() + 5s;
     while (watcher->frontmostIdentifier() != war3ID &&
            std::chrono::steady_clock::now() < deadline) {
-        ASSERT_TRUE(eventArrives(2s));
+        // The announcement may come in parts (first "no window"); a part Xlib has already read
+        // off the socket is no longer there to poll for, so the wait is short and not required.
+        eventArrives(200ms);
         watcher->takeInChanges();
     }
     EXPECT_EQ(watcher->frontmostIdentifier(), war3ID);
