@@ -15,6 +15,17 @@ QByteArray golden(const char* name) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing golden file>");
 }
 
+QByteArray bytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
+}
+
+void writeFile(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_EQ(file.write(bytes), bytes.size());
+}
+
 void EditorFixture::SetUp() {
     ASSERT_TRUE(dir_.isValid());
 }

@@ -23,6 +23,10 @@ namespace tarnic::testing {
 
 // An expected export from tests/data (its README says how each was made).
 QByteArray golden(const char* name);
+// A file's bytes, or "<unreadable>".
+QByteArray bytesOf(const QString& path);
+// Writes a file with exactly these bytes; fails the test when it cannot.
+void writeFile(const QString& path, const QByteArray& bytes);
 
 // One start of the application, put together exactly as the program is, on the recording fakes
 // and a private store: every test gets its own XDG config folder (XDG_CONFIG_HOME in a temporary

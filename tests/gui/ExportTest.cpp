@@ -18,17 +18,6 @@ static void registerTemplate() {
 namespace tarnic::testing {
 namespace {
 
-QByteArray bytesOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
-}
-
-void writeFile(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_EQ(file.write(bytes), bytes.size());
-}
-
 QSet<QWidget*> visibleWindows() {
     QSet<QWidget*> shown;
     for (QWidget* widget : QApplication::topLevelWidgets()) {

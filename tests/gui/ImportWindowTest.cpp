@@ -19,17 +19,6 @@ QString dataFile(const char* name) {
     return QStringLiteral(TARNIC_SOURCE_DIR "/tests/data/") + QLatin1String(name);
 }
 
-QByteArray bytesOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
-}
-
-void writeFile(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_EQ(file.write(bytes), bytes.size());
-}
-
 QFileDialog* openFileDialog() {
     for (QWidget* widget : QApplication::topLevelWidgets()) {
         if (auto* dialog = qobject_cast<QFileDialog*>(widget); dialog && widget->isVisible()) {

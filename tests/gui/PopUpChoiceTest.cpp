@@ -11,11 +11,6 @@
 namespace tarnic::testing {
 namespace {
 
-QByteArray bytesOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 // The pop-ups as a player meets them: a wheel turned over them or keys typed on them while they
 // are closed change nothing; only a pick from the open list does.
 class PopUpChoice : public EditorFixture {
