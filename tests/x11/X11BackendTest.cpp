@@ -17,6 +17,7 @@
 #include <gtest/gtest.h>
 #include <linux/input-event-codes.h>
 
+#include <algorithm>
 #include <poll.h>
 #include <string>
 #include <vector>
@@ -299,6 +300,13 @@ protected:
         ASSERT_GE(editorReady, 0) << editor.transcript().toStdString();
         gameWindow = game.lines()[gameReady].section(' ', 1).toULong();
         editorWindow = editor.lines()[editorReady].section(' ', 1).toULong();
+        // The window manager gives each new window the focus as it maps it, and on a busy machine
+        // the watcher may hear of that only now. Every test starts from the editor in front,
+        // asked for after both windows were mapped, so no focus of the window manager's own
+        // comes later.
+        ASSERT_TRUE(driver.focus(editorWindow, 5s));
+        ASSERT_TRUE(
+            processUntil([&] { return watcher->frontmostIdentifier() == "notepad.exe"; }, 5s));
     }
 
     // The serial number of the next request on the watcher's connection: it moves with every
@@ -323,6 +331,8 @@ protected:
 };
 
 TEST_F(X11FrontmostWatcherTest, FollowsTheActiveWindowFromEventsAlone) {
+    // What came before is the start, not under test: the editor in front.
+    changes.assign(1, "notepad.exe");
     ASSERT_TRUE(driver.focus(gameWindow, 5s));
     // Only the event loop runs here; reading the answer asks the server nothing.
     EXPECT_TRUE(processUntil([&] { return watcher->frontmostIdentifier() == war3ID; }, 2s));
@@ -330,10 +340,12 @@ TEST_F(X11FrontmostWatcherTest, FollowsTheActiveWindowFromEventsAlone) {
     EXPECT_TRUE(processUntil([&] { return watcher->frontmostIdentifier() == "notepad.exe"; }, 2s));
     ASSERT_TRUE(driver.focus(gameWindow, 5s));
     EXPECT_TRUE(processUntil([&] { return watcher->frontmostIdentifier() == war3ID; }, 2s));
-    // The window manager may say "no window" for an instant between two windows; that is a real
-    // change too, but not one this test makes.
+    // The window manager may say "no window" for an instant, between two windows or before it
+    // names the same window again (a late word about the start ends that way); those are real
+    // changes too, but not ones this test makes.
     std::erase(changes, std::string("none"));
-    EXPECT_EQ(changes, (std::vector<std::string>{war3ID, "notepad.exe", war3ID}));
+    changes.erase(std::unique(changes.begin(), changes.end()), changes.end());
+    EXPECT_EQ(changes, (std::vector<std::string>{"notepad.exe", war3ID, "notepad.exe", war3ID}));
 }
 
 TEST_F(X11FrontmostWatcherTest, AskingAndTakingInWithNothingNewSendNoRequest) {
