@@ -3,6 +3,7 @@
 // Bindings with and without Shift, Shift held or not, Num Lock on and off: every slot's tap must
 // arrive as its VK_NUMPADn with the keypad's scan code, never as a cursor key, and Num Lock must
 // be left exactly as it was.
+#include "support/KeyLogWaits.h"
 #include "support/KeymapProbe.h"
 #include "support/LineProcess.h"
 #include "support/QtPrinters.h"
@@ -97,11 +98,11 @@ protected:
         ASSERT_TRUE(harness.start(TARNIC_HARNESS_PATH, arguments, server.environment()));
         ASSERT_GE(harness.waitForLine("trusted true", 0, 20s), 0)
             << harness.transcript().toStdString();
-        const int ready = harness.waitForPrefix("ready ", 0, 20s);
-        ASSERT_GE(ready, 0);
+        const unsigned long harnessWindow = waitForReadyWindow(harness, 20s);
+        ASSERT_NE(harnessWindow, 0u);
         // Focused once so that the window manager has taken it over and will not hand it the
         // focus later by itself.
-        ASSERT_TRUE(driver.focus(harness.lines()[ready].section(' ', 1).toULong(), 10s));
+        ASSERT_TRUE(driver.focus(harnessWindow, 10s));
         ASSERT_EQ(probe.recordedKeycodes().size(), 6u) << "keypad keycodes claimed at start";
         if (programWindow != 0) {
             ASSERT_TRUE(driver.focus(programWindow, 10s));

@@ -5,6 +5,7 @@
 #include "platform/x11/X11FrontmostWatcher.h"
 #include "platform/x11/X11Platform.h"
 #include "support/KeyLogLine.h"
+#include "support/KeyLogWaits.h"
 #include "support/KeymapProbe.h"
 #include "support/LineProcess.h"
 #include "support/ProcessUntil.h"
@@ -75,24 +76,12 @@ protected:
     // Starts the key-log client and gives it the focus; its window id.
     unsigned long startKeyLog(LineProcess& log, const QString& windowClass) {
         EXPECT_TRUE(log.start(TARNIC_KEYLOG_PATH, {"--class", windowClass}, server.environment()));
-        const int ready = log.waitForPrefix("ready ", 0, 10s);
-        EXPECT_GE(ready, 0) << "key log did not map its window";
-        if (ready < 0) {
-            return 0;
+        const unsigned long window = waitForReadyWindow(log, 10s);
+        EXPECT_NE(window, 0u) << "key log did not map its window";
+        if (window != 0) {
+            EXPECT_TRUE(driver.focus(window, 5s));
         }
-        const unsigned long window = log.lines()[ready].section(' ', 1).toULong();
-        EXPECT_TRUE(driver.focus(window, 5s));
         return window;
-    }
-
-    // The first key line at or after `from` that is this press or release; -1 if none comes.
-    int waitForKey(LineProcess& log, bool press, unsigned keycode, int from) {
-        return log.waitFor(
-            [&](const QString& line) {
-                const auto key = KeyLogLine::parse(line);
-                return key && key->is(press, keycode);
-            },
-            from, 5s);
     }
 
     XvfbSession server{false};
@@ -263,15 +252,15 @@ TEST_F(X11BackendWithWindowManagerTest, FrontmostApplicationIsTheActiveWindowsCl
     LineProcess editor;
     ASSERT_TRUE(game.start(TARNIC_KEYLOG_PATH, {"--class", "War3.exe"}, server.environment()));
     ASSERT_TRUE(editor.start(TARNIC_KEYLOG_PATH, {"--class", "notepad.exe"}, server.environment()));
-    const int gameReady = game.waitForPrefix("ready ", 0, 10s);
-    const int editorReady = editor.waitForPrefix("ready ", 0, 10s);
-    ASSERT_GE(gameReady, 0) << game.transcript().toStdString();
-    ASSERT_GE(editorReady, 0) << editor.transcript().toStdString();
+    const unsigned long gameWindow = waitForReadyWindow(game, 10s);
+    const unsigned long editorWindow = waitForReadyWindow(editor, 10s);
+    ASSERT_NE(gameWindow, 0u) << game.transcript().toStdString();
+    ASSERT_NE(editorWindow, 0u) << editor.transcript().toStdString();
 
-    ASSERT_TRUE(driver.focus(game.lines()[gameReady].section(' ', 1).toULong(), 5s));
+    ASSERT_TRUE(driver.focus(gameWindow, 5s));
     EXPECT_TRUE(processUntil(
         [&] { return platform->frontmostApplication->bundleIdentifier() == war3ID; }, 2s));
-    ASSERT_TRUE(driver.focus(editor.lines()[editorReady].section(' ', 1).toULong(), 5s));
+    ASSERT_TRUE(driver.focus(editorWindow, 5s));
     EXPECT_TRUE(processUntil(
         [&] { return platform->frontmostApplication->bundleIdentifier() == "notepad.exe"; }, 2s));
     EXPECT_EQ(platform->frontmostApplication->bundleIdentifier(), "notepad.exe");
@@ -294,12 +283,10 @@ protected:
         ASSERT_TRUE(game.start(TARNIC_KEYLOG_PATH, {"--class", "war3.exe"}, server.environment()));
         ASSERT_TRUE(
             editor.start(TARNIC_KEYLOG_PATH, {"--class", "notepad.exe"}, server.environment()));
-        const int gameReady = game.waitForPrefix("ready ", 0, 10s);
-        const int editorReady = editor.waitForPrefix("ready ", 0, 10s);
-        ASSERT_GE(gameReady, 0) << game.transcript().toStdString();
-        ASSERT_GE(editorReady, 0) << editor.transcript().toStdString();
-        gameWindow = game.lines()[gameReady].section(' ', 1).toULong();
-        editorWindow = editor.lines()[editorReady].section(' ', 1).toULong();
+        gameWindow = waitForReadyWindow(game, 10s);
+        editorWindow = waitForReadyWindow(editor, 10s);
+        ASSERT_NE(gameWindow, 0u) << game.transcript().toStdString();
+        ASSERT_NE(editorWindow, 0u) << editor.transcript().toStdString();
         // The window manager gives each new window the focus as it maps it, and on a busy machine
         // the watcher may hear of that only now. Every test starts from the editor in front,
         // asked for after both windows were mapped, so no focus of the window manager's own

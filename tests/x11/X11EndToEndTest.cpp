@@ -2,6 +2,7 @@
 // the remapper's decisions) and a separate X client that has the focus and logs what it receives,
 // both on a private Xvfb with openbox; the keyboard is XTest.
 #include "support/KeyLogLine.h"
+#include "support/KeyLogWaits.h"
 #include "support/KeymapProbe.h"
 #include "support/LineProcess.h"
 #include "support/QtPrinters.h"
@@ -43,9 +44,9 @@ protected:
     unsigned long startClient(LineProcess& client, const QString& windowClass) {
         EXPECT_TRUE(
             client.start(TARNIC_KEYLOG_PATH, {"--class", windowClass}, server.environment()));
-        const int ready = client.waitForPrefix("ready ", 0, 10s);
-        EXPECT_GE(ready, 0) << "the key-log client did not map its window";
-        return ready < 0 ? 0 : client.lines()[ready].section(' ', 1).toULong();
+        const unsigned long window = waitForReadyWindow(client, 10s);
+        EXPECT_NE(window, 0u) << "the key-log client did not map its window";
+        return window;
     }
 
     // Starts the stand-in with these arguments, waits until it records, and leaves the focus on
@@ -55,9 +56,8 @@ protected:
         ASSERT_NE(clientWindow, 0u);
         ASSERT_TRUE(harness.start(TARNIC_HARNESS_PATH, arguments, server.environment()));
         ASSERT_GE(harness.waitForLine("trusted true", 0, 10s), 0) << transcripts();
-        const int ready = harness.waitForPrefix("ready ", 0, 10s);
-        ASSERT_GE(ready, 0) << transcripts();
-        harnessWindow = harness.lines()[ready].section(' ', 1).toULong();
+        harnessWindow = waitForReadyWindow(harness, 10s);
+        ASSERT_NE(harnessWindow, 0u) << transcripts();
         // Focusing it once makes sure the window manager has taken it over, so that it does not
         // take the focus later by itself.
         ASSERT_TRUE(driver.focus(harnessWindow, 10s));
@@ -83,15 +83,6 @@ protected:
             harness.waitForLine(QString("observed down %1").arg(macKeyCode), harnessBefore, 5s), 0)
             << transcripts();
         ASSERT_GE(waitForKey(client, true, xKeycode, clientBefore), 0) << transcripts();
-    }
-
-    int waitForKey(LineProcess& log, bool press, unsigned keycode, int from) {
-        return log.waitFor(
-            [&](const QString& line) {
-                const auto key = KeyLogLine::parse(line);
-                return key && key->is(press, keycode);
-            },
-            from, 5s);
     }
 
     int countKey(LineProcess& log, bool press, unsigned keycode) {

@@ -6,6 +6,7 @@
 #include "platform/x11/X11KeypadKeycodes.h"
 #include "platform/x11/X11Platform.h"
 #include "support/KeyLogLine.h"
+#include "support/KeyLogWaits.h"
 #include "support/KeymapProbe.h"
 #include "support/LineProcess.h"
 #include "support/ProcessUntil.h"
@@ -139,23 +140,12 @@ protected:
 
     unsigned long startKeyLog(LineProcess& log) {
         EXPECT_TRUE(log.start(TARNIC_KEYLOG_PATH, {}, server.environment()));
-        const int ready = log.waitForPrefix("ready ", 0, 10s);
-        EXPECT_GE(ready, 0) << "key log did not map its window";
-        if (ready < 0) {
-            return 0;
+        const unsigned long window = waitForReadyWindow(log, 10s);
+        EXPECT_NE(window, 0u) << "key log did not map its window";
+        if (window != 0) {
+            EXPECT_TRUE(driver.focus(window, 5s));
         }
-        const unsigned long window = log.lines()[ready].section(' ', 1).toULong();
-        EXPECT_TRUE(driver.focus(window, 5s));
         return window;
-    }
-
-    int waitForKey(LineProcess& log, bool press, unsigned keycode, int from) {
-        return log.waitFor(
-            [&](const QString& line) {
-                const auto key = KeyLogLine::parse(line);
-                return key && key->is(press, keycode);
-            },
-            from, 5s);
     }
 
     XvfbSession server{false};
@@ -374,8 +364,7 @@ TEST_F(X11KeypadKeycodesTest,
     ASSERT_TRUE(harness.start(TARNIC_HARNESS_PATH, {"--bind", "1,0,12"}, server.environment(),
                               LineProcess::Errors::Keep));
     ASSERT_GE(harness.waitForPrefix("ready ", 0, 20s), 0) << harness.transcript().toStdString();
-    ASSERT_TRUE(driver.focus(
-        log.lines()[log.waitForPrefix("ready ", 0, 1s)].section(' ', 1).toULong(), 5s));
+    ASSERT_TRUE(driver.focus(waitForReadyWindow(log, 1s), 5s));
     EXPECT_TRUE(probe.recordedKeycodes().empty());
 
     for (int tap = 0; tap < 2; ++tap) {
