@@ -11,7 +11,6 @@
 #include "support/XTestDriver.h"
 #include "support/XvfbSession.h"
 
-#include <QCoreApplication>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -273,9 +272,3 @@ TEST_F(WineRemapperTest, TapsReachAWindowsProgramAsNumpadKeysWithShiftHeldAndNum
 
 } // namespace
 } // namespace tarnic
-
-int main(int argc, char** argv) {
-    QCoreApplication application(argc, argv);
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

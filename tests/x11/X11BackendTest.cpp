@@ -13,8 +13,6 @@
 #include "support/XvfbSession.h"
 #include "support/XKeycodes.h"
 
-#include <QCoreApplication>
-
 #include <gtest/gtest.h>
 #include <linux/input-event-codes.h>
 
@@ -396,9 +394,3 @@ TEST_F(X11FrontmostWatcherTest, ThePlatformHasOneOnItsMainConnection) {
 
 } // namespace
 } // namespace tarnic
-
-int main(int argc, char** argv) {
-    QCoreApplication application(argc, argv);
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

@@ -15,7 +15,6 @@
 #include "support/XTestDriver.h"
 #include "support/XvfbSession.h"
 
-#include <QCoreApplication>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -482,9 +481,3 @@ INSTANTIATE_TEST_SUITE_P(X11KeypadKeycodes, GivesBackOnSignal,
 
 } // namespace
 } // namespace tarnic
-
-int main(int argc, char** argv) {
-    QCoreApplication application(argc, argv);
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}
