@@ -123,6 +123,40 @@ TEST_F(ImportWindow, GridLayoutRoundTrips) {
     EXPECT_EQ(second, first);
 }
 
+TEST_F(ImportWindow, NamesInAnyCaseReadAsTheGameReadsThem) {
+    // Each kept file, then its copies with names in lower case, in upper case and in lower case
+    // but for hero abilities (tests/data/make-case-variants.py), from the grid layout each time.
+    const std::vector<std::pair<QString, const char*>> files = {
+        {"game-default-CustomKeys", "export-untouched.txt"},
+        {"export-grid-layout", "export-grid-layout.txt"},
+        {"export-hand-set", "export-hand-set.txt"}};
+    for (const auto& [stem, expectedExport] : files) {
+        std::optional<Alert> originalMessage;
+        for (const QString& copy :
+             {stem + ".txt", "case-variants/" + stem + ".lower.txt",
+              "case-variants/" + stem + ".upper.txt", "case-variants/" + stem + ".mixed.txt"}) {
+            SCOPED_TRACE(copy.toStdString());
+            // The same list before each: Grid layout keeps the general commands' keys as they
+            // are.
+            click(*ui().resetButton);
+            click(*ui().gridButton);
+            alerts().shown.clear();
+            importAnswering(dataFile(copy.toUtf8().constData()));
+            const Alert shown = message();
+            if (!originalMessage) {
+                originalMessage = shown;
+                EXPECT_TRUE(shown.text.startsWith("160 hotkeys read, "));
+            }
+            EXPECT_EQ(shown.text, originalMessage->text);
+            EXPECT_EQ(shown.informativeText, originalMessage->informativeText);
+            EXPECT_EQ(shown.icon, originalMessage->icon);
+            const QString target = tempPath("CustomKeys.txt");
+            exportAnswering(target);
+            EXPECT_EQ(bytesOf(target), golden(expectedExport));
+        }
+    }
+}
+
 TEST_F(ImportWindow, ImportKeepsTheStoreAsItWas) {
     const QByteArray store = bytesOf(storePath());
     importAnswering(dataFile("export-grid-layout.txt"));

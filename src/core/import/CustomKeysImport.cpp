@@ -2,6 +2,7 @@
 
 #include "core/catalogue/HotkeyMarking.h"
 #include "core/editor/KeyAssignment.h"
+#include "core/import/AsciiCase.h"
 #include "core/import/HotkeyPlaces.h"
 #include "core/import/SectionOccurrences.h"
 
@@ -138,7 +139,8 @@ bool readAbility(AbilityRecord& record, const Shapes& shapes, SectionOccurrences
 ImportReport importCustomKeys(std::vector<AbilityRecord>& list, std::string_view text) {
     const std::vector<HotkeyFileSection> sections = readHotkeyFile(text);
     std::vector<Shapes> shapes;
-    std::set<std::string, std::less<>> written;
+    // Whatever their case in the file, as the game finds them.
+    std::set<std::string, AsciiCaseLess> written;
     for (const AbilityRecord& record : list) {
         shapes.push_back(shapesOf(record));
         written.insert(shapes.back().edit.sections.begin(), shapes.back().edit.sections.end());

@@ -24,6 +24,9 @@ namespace tarnic {
 // Step 1 keeps the abilities whose default entry holds other keys than their default key (Call to
 // Arms' off key W, Ensnare's E, Cargo Load's L) untouched when the file is the game's own.
 //
+// Section names and line names ("Hotkey=", the tip of a joined line) are read whatever their case,
+// as the game reads them: a file written all in lower case reads as the same file in the
+// catalogue's spelling. Values are not names: the text of a tip is matched as it is.
 // A section the file holds more than once is handed out as SectionOccurrences says.
 // A file none of whose sections an ability of the list writes changes nothing.
 ImportReport importCustomKeys(std::vector<AbilityRecord>& list, std::string_view text);

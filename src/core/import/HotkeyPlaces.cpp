@@ -1,5 +1,6 @@
 #include "core/import/HotkeyPlaces.h"
 
+#include "core/import/AsciiCase.h"
 #include "core/record/AbilityRecord.h"
 
 namespace tarnic {
@@ -10,10 +11,23 @@ bool isAsciiLetter(char c) {
     return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
 
+// Whether `line` begins with `before`, the line's name (up to and with its first "=") in any case
+// as the game reads it, the rest as it is: "hotkey=" begins like "Hotkey=", and
+// "untip=\"x\"Hotkey=" like "Untip=\"x\"Hotkey=", whose "\"x\"Hotkey=" is tip text. A `before`
+// without "=" is all name. Only `before`'s own length of the line is looked at, however long the
+// line.
+bool beginsWith(std::string_view line, std::string_view before) {
+    const std::size_t equals = before.find('=');
+    const std::size_t name = equals == std::string_view::npos ? before.size() : equals + 1;
+    return line.size() >= before.size() &&
+           equalIgnoringAsciiCase(line.substr(0, name), before.substr(0, name)) &&
+           line.substr(name, before.size() - name) == before.substr(name);
+}
+
 // The value between `before` and `after` when `line` has that shape.
 std::optional<std::string_view> valueIn(std::string_view line, std::string_view before,
                                         std::string_view after) {
-    if (line.size() < before.size() + after.size() || !line.starts_with(before) ||
+    if (line.size() < before.size() + after.size() || !beginsWith(line, before) ||
         !line.ends_with(after)) {
         return std::nullopt;
     }

@@ -30,7 +30,8 @@ struct BlockPlaces {
 BlockPlaces placesOf(std::string_view markedBlock);
 
 // The key a file section holds at `place`, as an upper-case letter. The line that fits is the
-// first one that begins with the text before the marker and ends with the text after it; when
+// first one that begins with the text before the marker and ends with the text after it, the
+// line's name (up to its first "=") in any case as the game reads it; when
 // none does and the template line carries more than its hotkey (a tip joined to it), the first
 // line that is just that hotkey ("Hotkey=...") fits too, as the game's own files write it. No
 // fitting line, or a fitting line whose value is not one letter (either case), gives nothing.

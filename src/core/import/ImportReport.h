@@ -23,6 +23,8 @@ struct ImportReport {
 
     // Whether the file holds anything of the list at all; when it does not, nothing changed.
     bool holdsCatalogue() const { return fileSections > unknownSections; }
+
+    bool operator==(const ImportReport&) const = default;
 };
 
 // "142 hotkeys read, 12 changed; 37 sections of the file are not in the catalogue and were left

@@ -13,7 +13,7 @@ SectionOccurrences::SectionOccurrences(const std::vector<HotkeyFileSection>& sec
 std::vector<const HotkeyFileSection*>
 SectionOccurrences::pick(const std::vector<std::string>& ids) const {
     std::vector<const HotkeyFileSection*> picked;
-    std::map<std::string_view, std::size_t> seen;
+    std::map<std::string_view, std::size_t, AsciiCaseLess> seen;
     for (const std::string& id : ids) {
         const std::size_t again = seen[id]++;
         const auto found = byId_.find(id);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/import/AsciiCase.h"
 #include "core/import/HotkeyFile.h"
 
 #include <cstddef>
@@ -10,7 +11,8 @@
 
 namespace tarnic {
 
-// The sections of a file by identifier. A file may hold one identifier more than once: the
+// The sections of a file by identifier, whatever its case, as the game finds them: [AOwk] and
+// [aowk] are two occurrences of one section. A file may hold one identifier more than once: the
 // export writes a section once per ability whose block holds it, and two abilities of the
 // catalogue write the section of another (Mirror Image that of Wind Walk, Berserk with a key
 // that of Resurrection). The abilities take such sections in file order, one each, as the export
@@ -30,8 +32,8 @@ public:
     void take(const std::vector<std::string>& ids);
 
 private:
-    std::map<std::string, std::vector<const HotkeyFileSection*>, std::less<>> byId_;
-    std::map<std::string, std::size_t, std::less<>> taken_;
+    std::map<std::string, std::vector<const HotkeyFileSection*>, AsciiCaseLess> byId_;
+    std::map<std::string, std::size_t, AsciiCaseLess> taken_;
 };
 
 } // namespace tarnic

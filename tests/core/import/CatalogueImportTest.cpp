@@ -1,16 +1,14 @@
 // Import against the real catalogue, the shipped template and the files in tests/data.
 #include "core/import/CustomKeysImport.h"
 
+#include "CatalogueFiles.h"
 #include "core/catalogue/Catalogue.h"
 #include "core/catalogue/CatalogueRecords.h"
-#include "core/editor/ExportText.h"
 #include "core/editor/GridLayout.h"
 #include "core/editor/KeyAssignment.h"
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <random>
 #include <set>
 #include <string>
@@ -18,24 +16,8 @@
 namespace tarnic {
 namespace {
 
-std::string bytesOf(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    EXPECT_TRUE(in.good()) << path;
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-std::string testData(const char* name) {
-    return bytesOf(std::string(TARNIC_SOURCE_DIR "/tests/data/") + name);
-}
-
-const std::string& shippedTemplate() {
-    static const std::string text = bytesOf(TARNIC_SOURCE_DIR "/resources/defaultkeys");
-    return text;
-}
-
-std::string exported(const std::vector<AbilityRecord>& list) {
-    return exportText(list, shippedTemplate());
-}
+using testing::exported;
+using testing::testData;
 
 // Export, start again from the catalogue, import the file, export again.
 std::string roundTrip(const std::string& file) {
@@ -163,6 +145,31 @@ TEST(CatalogueImport, MirrorImageAndWindWalkReadTheirOwnCopiesOfTheSection) {
     assignKey(list[indexOf(mirror_image_())], "E");
     std::vector<AbilityRecord> read = all_data();
     importCustomKeys(read, exported(list));
+    EXPECT_EQ(read[indexOf(wind_walk_())].at(new_hotkey), "Q");
+    EXPECT_EQ(read[indexOf(mirror_image_())].at(new_hotkey), "E");
+}
+
+TEST(CatalogueImport, TheCopiesOfASectionAreReadInFileOrderWhateverTheirCase) {
+    std::vector<AbilityRecord> list = all_data();
+    assignKey(list[indexOf(wind_walk_())], "Q");
+    assignKey(list[indexOf(mirror_image_())], "E");
+    std::string file = exported(list);
+    // The second copy, Mirror Image's, spelt as the game would find it too.
+    const std::size_t first = file.find("[AOwk]");
+    const std::size_t second = file.find("[AOwk]", first + 1);
+    ASSERT_NE(second, std::string::npos);
+    file.replace(second, 6, "[aowk]");
+    std::vector<AbilityRecord> read = all_data();
+    const ImportReport report = importCustomKeys(read, file);
+    EXPECT_EQ(read[indexOf(wind_walk_())].at(new_hotkey), "Q");
+    EXPECT_EQ(read[indexOf(mirror_image_())].at(new_hotkey), "E");
+    EXPECT_EQ(report.unknownSections, 0u);
+    EXPECT_EQ(exported(read), exported(list));
+    // Lowered first instead, the copies still go in file order.
+    file.replace(second, 6, "[AOwk]");
+    file.replace(first, 6, "[aowk]");
+    read = all_data();
+    importCustomKeys(read, file);
     EXPECT_EQ(read[indexOf(wind_walk_())].at(new_hotkey), "Q");
     EXPECT_EQ(read[indexOf(mirror_image_())].at(new_hotkey), "E");
 }

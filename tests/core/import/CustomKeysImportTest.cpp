@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cctype>
 #include <string>
 #include <vector>
 
@@ -246,6 +248,93 @@ TEST(CustomKeysImport, ExportThenImportGivesTheSameExport) {
     EXPECT_EQ(fresh, list);
     EXPECT_EQ(report.read, 9u);
     EXPECT_EQ(report.changed, 2u);
+}
+
+TEST(CustomKeysImport, NamesInAnyCaseReadAsTheCatalogueSpellsThem) {
+    const std::string file = "[Ahea]\nTip=Heal\nHotkey=Q\nResearchhotkey=W\n"
+                             "[Ainf]\nHotkey=K\nResearchhotkey=K\n[Xone]\nHotkey=Z\n";
+    auto expected = smallList();
+    const ImportReport expectedReport = importCustomKeys(expected, file);
+    ASSERT_EQ(expectedReport.changed, 2u);
+    for (const char* spelt : {"[ahea]\ntip=Heal\nhotkey=Q\nresearchhotkey=W\n"
+                              "[ainf]\nhotkey=K\nresearchhotkey=K\n[xone]\nhotkey=Z\n",
+                              "[AHEA]\nTIP=Heal\nHOTKEY=Q\nRESEARCHHOTKEY=W\n"
+                              "[AINF]\nHOTKEY=K\nRESEARCHHOTKEY=K\n[XONE]\nHOTKEY=Z\n",
+                              "[aHEA]\nTip=Heal\nhOTKEY=Q\nResearchHotkey=W\n"
+                              "[AInf]\nHotKey=K\nresearchhotkey=K\n[XOne]\nhotkey=Z\n"}) {
+        auto list = smallList();
+        EXPECT_EQ(importCustomKeys(list, spelt), expectedReport) << spelt;
+        EXPECT_EQ(list, expected) << spelt;
+    }
+}
+
+TEST(CustomKeysImport, ALowerCaseCopyOfTheDefaultEntryClearsAChoice) {
+    auto list = smallList();
+    assignKey(list[7], "Q");
+    const ImportReport report = importCustomKeys(list, "[ahea]\nhotkey=E\nresearchhotkey=E");
+    EXPECT_EQ(list, smallList());
+    EXPECT_EQ(report.read, 1u);
+    EXPECT_EQ(report.changed, 1u);
+}
+
+TEST(CustomKeysImport, ADefaultEntryWithAnotherOffKeyIsNoChoiceInAnyCase) {
+    for (const char* text : {"[amil]\nhotkey=C\nunhotkey=W", "[AMIL]\nHOTKEY=c\nUNHOTKEY=w"}) {
+        auto list = generalCommands();
+        list.push_back(castAndOff());
+        assignKey(list[7], "Q");
+        importCustomKeys(list, text);
+        EXPECT_EQ(list[7], castAndOff()) << text;
+    }
+    // And the default key everywhere stays a choice.
+    auto list = generalCommands();
+    list.push_back(castAndOff());
+    importCustomKeys(list, "[amil]\nhotkey=C\nunhotkey=C");
+    EXPECT_EQ(list[7], withKey(castAndOff(), "C"));
+}
+
+TEST(CustomKeysImport, TwoSpellingsOfOneSectionAreTwoCopiesTakenInFileOrder) {
+    auto list = generalCommands();
+    list.push_back(makeRecord("Walk", "Blade", "W", "AOwk"));
+    AbilityRecord image = makeRecord("Walk", "Blade", "W", "AOwk");
+    image[name_spell] = "Image";
+    image[def_hotkey] = "R";
+    list.push_back(image);
+    const ImportReport report = importCustomKeys(
+        list, "[aowk]\nhotkey=Q\nresearchhotkey=Q\n[AOWK]\nHotkey=E\nResearchhotkey=E");
+    EXPECT_EQ(list[7].at(new_hotkey), "Q");
+    EXPECT_EQ(list[8].at(new_hotkey), "E");
+    EXPECT_EQ(report.fileSections, 2u);
+    EXPECT_EQ(report.unknownSections, 0u);
+}
+
+TEST(CustomKeysImport, AnExportWithItsNamesInLowerCaseGivesTheSameExport) {
+    auto list = smallList();
+    assignKey(list[0], "Q");
+    assignKey(list[8], "R");
+    const std::string frame = "// head\n" + M + "\n";
+    const std::string first = exportText(list, frame);
+    // Every header and every line name lowered; comments and values as they are.
+    std::string whole;
+    std::size_t at = 0;
+    while (at < first.size()) {
+        const std::size_t end = std::min(first.find('\n', at), first.size());
+        std::string line = first.substr(at, end - at);
+        const std::size_t equals = line.find('=');
+        const std::size_t nameEnd = line.starts_with("//")        ? 0
+                                    : line.starts_with('[')       ? line.size()
+                                    : equals == std::string::npos ? 0
+                                                                  : equals;
+        for (std::size_t i = 0; i < nameEnd; ++i) {
+            line[i] = static_cast<char>(std::tolower(static_cast<unsigned char>(line[i])));
+        }
+        whole += line + (end < first.size() ? "\n" : "");
+        at = end + 1;
+    }
+    ASSERT_NE(whole, first);
+    auto again = smallList();
+    importCustomKeys(again, whole);
+    EXPECT_EQ(again, list);
+    EXPECT_EQ(exportText(again, frame), first);
 }
 
 } // namespace

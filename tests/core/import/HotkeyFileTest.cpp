@@ -75,6 +75,14 @@ TEST(HotkeyFile, ARepeatedSectionIsKeptEachTime) {
     EXPECT_EQ(sections[1].lines, (std::vector<std::string>{"Hotkey=R"}));
 }
 
+TEST(HotkeyFile, NamesAreKeptAsTheFileSpellsThem) {
+    // Matching them without case is for the reader of the sections, not for the file's reading.
+    const auto sections = readHotkeyFile("[ahfs]\nhotkey=q\n[AHFS]\nHOTKEY=Q\n");
+    EXPECT_EQ(idsOf(sections), (std::vector<std::string>{"ahfs", "AHFS"}));
+    EXPECT_EQ(sections[0].lines, (std::vector<std::string>{"hotkey=q"}));
+    EXPECT_EQ(sections[1].lines, (std::vector<std::string>{"HOTKEY=Q"}));
+}
+
 TEST(HotkeyFile, AnEmptyHeaderIsASectionWithAnEmptyName) {
     const auto sections = readHotkeyFile("[]\nHotkey=Q\n[");
     ASSERT_EQ(sections.size(), 1u);

@@ -103,5 +103,40 @@ TEST(KeyAt, TheTextAfterTheMarkerMustFollow) {
     EXPECT_EQ(keyAt(place, section({"Hotkey=Q;"})), 'Q');
 }
 
+TEST(KeyAt, TheLineNameIsReadInAnyCase) {
+    for (const char* line : {"hotkey=Q", "HOTKEY=Q", "hOtKeY=Q"}) {
+        EXPECT_EQ(keyAt({0, "Hotkey=", ""}, section({line})), 'Q') << line;
+    }
+    EXPECT_EQ(keyAt({0, "Researchhotkey=", ""}, section({"Hotkey=Q", "researchhotkey=w"})), 'W');
+    // Another name stays another name in any case.
+    EXPECT_EQ(keyAt({0, "Hotkey=", ""}, section({"UNHOTKEY=Q", "researchHotkey=W"})), std::nullopt);
+}
+
+TEST(KeyAt, AJoinedLineReadsItsNameInAnyCaseAndItsTipAsItIs) {
+    const HotkeyPlace place{0, "Tip=|cffffcc00R|resurrectionHotkey=", ""};
+    EXPECT_EQ(keyAt(place, section({"tip=|cffffcc00R|resurrectionHotkey=Q"})), 'Q');
+    EXPECT_EQ(keyAt(place, section({"TIP=|cffffcc00R|resurrectionHotkey=Q"})), 'Q');
+    // What follows the name's "=" is tip text: another text is another line.
+    EXPECT_EQ(keyAt(place, section({"Tip=|CFFFFCC00R|RESURRECTIONHOTKEY=Q"})), std::nullopt);
+    EXPECT_EQ(keyAt(place, section({"Tip=|cffffcc00R|resurrectionhotkey=Q"})), std::nullopt);
+}
+
+TEST(KeyAt, AJoinedLineWrittenApartIsReadFromItsHotkeyLineInAnyCase) {
+    const HotkeyPlace place{0, "Untip=\"auto\"Hotkey=", ""};
+    EXPECT_EQ(keyAt(place, section({"untip=\"auto\"", "hotkey=Q"})), 'Q');
+    EXPECT_EQ(keyAt(place, section({"UNTIP=\"auto\"", "UNHOTKEY=Q"})), std::nullopt);
+}
+
+TEST(KeyAt, ABeforeWithoutAnEqualsSignIsAllName) {
+    EXPECT_EQ(keyAt({0, "Key ", ""}, section({"KEY Q"})), 'Q');
+    EXPECT_EQ(keyAt({0, "Key ", ""}, section({"Key=Q"})), std::nullopt);
+}
+
+TEST(KeyAt, ANameThatRunsOnPastThePlacesEqualsSignIsAnotherName) {
+    const std::string longName = "Hotkey" + std::string(100000, 'x') + "=Q";
+    EXPECT_EQ(keyAt({0, "Hotkey=", ""}, section({longName})), std::nullopt);
+    EXPECT_EQ(keyAt({0, "Hotkey=", ""}, section({longName, "HOTKEY=e"})), 'E');
+}
+
 } // namespace
 } // namespace tarnic

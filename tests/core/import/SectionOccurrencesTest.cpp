@@ -49,5 +49,41 @@ TEST(SectionOccurrences, ABlockHoldingAnIdentifierTwiceReadsTwoSections) {
     EXPECT_FALSE(file.contains("Aens"));
 }
 
+// The same section as kFile, spelt three ways.
+const std::vector<HotkeyFileSection> kSpellings = {
+    {.id = "AOwk", .comments = {}, .lines = {"Hotkey=W"}},
+    {.id = "adef", .comments = {}, .lines = {"Hotkey=D"}},
+    {.id = "aowk", .comments = {}, .lines = {"Hotkey=R"}},
+    {.id = "AOWK", .comments = {}, .lines = {"Hotkey=E"}}};
+
+TEST(SectionOccurrences, AnIdentifierIsFoundWhateverItsCase) {
+    const SectionOccurrences file(kSpellings);
+    EXPECT_TRUE(file.contains("Adef"));
+    EXPECT_TRUE(file.contains("ADEF"));
+    EXPECT_TRUE(file.contains("aowk"));
+    EXPECT_FALSE(file.contains("Adefx"));
+    EXPECT_EQ(file.pick({"Adef"}), (std::vector<const HotkeyFileSection*>{&kSpellings[1]}));
+}
+
+TEST(SectionOccurrences, SpellingsOfOneIdentifierAreItsOccurrencesInFileOrder) {
+    SectionOccurrences file(kSpellings);
+    EXPECT_EQ(file.pick({"AOwk", "AOwk"}),
+              (std::vector<const HotkeyFileSection*>{&kSpellings[0], &kSpellings[2]}));
+    file.take({"AOwk"});
+    EXPECT_EQ(file.pick({"AOwk"}), (std::vector<const HotkeyFileSection*>{&kSpellings[2]}));
+    // Taken under another spelling, the same identifier moves on.
+    file.take({"aOWk"});
+    EXPECT_EQ(file.pick({"AOwk"}), (std::vector<const HotkeyFileSection*>{&kSpellings[3]}));
+    file.take({"AOwk"});
+    EXPECT_EQ(file.pick({"AOwk"}), (std::vector<const HotkeyFileSection*>{&kSpellings[3]}));
+}
+
+TEST(SectionOccurrences, ABlockSpellingAnIdentifierTwoWaysReadsTwoSections) {
+    const SectionOccurrences file(kSpellings);
+    EXPECT_EQ(
+        file.pick({"AOwk", "aowk", "Adef"}),
+        (std::vector<const HotkeyFileSection*>{&kSpellings[0], &kSpellings[2], &kSpellings[1]}));
+}
+
 } // namespace
 } // namespace tarnic
