@@ -89,6 +89,25 @@ unsigned long XTestDriver::inputFocus() {
     return focus;
 }
 
+unsigned long XTestDriver::activeWindow() {
+    Atom type = 0;
+    int format = 0;
+    unsigned long count = 0;
+    unsigned long remaining = 0;
+    unsigned char* data = nullptr;
+    Window active = 0;
+    if (XGetWindowProperty(display_, DefaultRootWindow(display_),
+                           XInternAtom(display_, "_NET_ACTIVE_WINDOW", False), 0, 1, False,
+                           XA_WINDOW, &type, &format, &count, &remaining, &data) == Success &&
+        type == XA_WINDOW && format == 32 && count == 1 && data != nullptr) {
+        active = static_cast<Window>(*reinterpret_cast<unsigned long*>(data));
+    }
+    if (data != nullptr) {
+        XFree(data);
+    }
+    return active;
+}
+
 bool XTestDriver::focus(unsigned long window, std::chrono::milliseconds timeout) {
     const Window root = DefaultRootWindow(display_);
     const Atom supportingCheck = XInternAtom(display_, "_NET_SUPPORTING_WM_CHECK", True);
@@ -122,7 +141,9 @@ bool XTestDriver::focus(unsigned long window, std::chrono::milliseconds timeout)
     }
     XSync(display_, False);
     const auto deadline = std::chrono::steady_clock::now() + timeout;
-    while (inputFocus() != window) {
+    // With a window manager, also until it names the window active: it does so a moment after
+    // the focus moved, and a program that follows _NET_ACTIVE_WINDOW learns of it only then.
+    while (inputFocus() != window || (windowManager && activeWindow() != window)) {
         if (std::chrono::steady_clock::now() >= deadline) {
             return false;
         }

@@ -26,6 +26,8 @@ public:
     // input focus directly; then waits, bounded, until the window has the focus.
     bool focus(unsigned long window, std::chrono::milliseconds timeout);
     unsigned long inputFocus();
+    // The window in _NET_ACTIVE_WINDOW on the root window; 0 when none is named.
+    unsigned long activeWindow();
     // A mapped window whose WM_CLASS class is `windowClass` (ignoring case), waiting for it up
     // to `timeout`; 0 if none shows up.
     unsigned long waitForWindowOfClass(const QString& windowClass,

@@ -4,6 +4,7 @@
 
 #include <X11/Xlib.h>
 
+#include <algorithm>
 #include <map>
 #include <mutex>
 
@@ -70,6 +71,39 @@ X11EventPump& X11Connection::eventPump() {
         eventPump_ = std::make_unique<X11EventPump>(display_);
     }
     return *eventPump_;
+}
+
+void X11Connection::selectEvents(unsigned long window, long mask) {
+    std::vector<long>& masks = selections_[window];
+    masks.push_back(mask);
+    long all = NoEventMask;
+    for (const long each : masks) {
+        all |= each;
+    }
+    XSelectInput(display_, window, all);
+}
+
+void X11Connection::deselectEvents(unsigned long window, long mask) {
+    const auto it = selections_.find(window);
+    if (it == selections_.end()) {
+        return;
+    }
+    std::vector<long>& masks = it->second;
+    if (const auto one = std::find(masks.begin(), masks.end(), mask); one != masks.end()) {
+        masks.erase(one);
+    }
+    long all = NoEventMask;
+    for (const long each : masks) {
+        all |= each;
+    }
+    XSelectInput(display_, window, all);
+    if (masks.empty()) {
+        selections_.erase(it);
+    }
+}
+
+void X11Connection::forgetWindow(unsigned long window) {
+    selections_.erase(window);
 }
 
 bool X11Connection::syncSucceeded() {

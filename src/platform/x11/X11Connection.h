@@ -1,6 +1,8 @@
 #pragma once
 
+#include <map>
 #include <memory>
+#include <vector>
 
 struct _XDisplay;
 
@@ -32,11 +34,21 @@ public:
     // the recording may read there.
     X11EventPump& eventPump();
 
+    // A client has one event mask per window, and a second XSelectInput replaces the first: the
+    // parts that share this connection select through here, each adding its own bits and later
+    // taking away only those.
+    void selectEvents(unsigned long window, long mask);
+    void deselectEvents(unsigned long window, long mask);
+    // The window is gone: forgets what was selected on it, without a request.
+    void forgetWindow(unsigned long window);
+
 private:
     explicit X11Connection(_XDisplay* display);
 
     _XDisplay* display_;
     std::unique_ptr<X11EventPump> eventPump_;
+    // Per window, the masks selected through selectEvents and not yet taken away.
+    std::map<unsigned long, std::vector<long>> selections_;
 };
 
 } // namespace tarnic::x11

@@ -9,9 +9,7 @@
 
 namespace tarnic::x11 {
 
-namespace {
-
-std::optional<Window> activeWindow(Display* display, Atom activeWindowAtom) {
+std::optional<unsigned long> readActiveWindow(_XDisplay* display, unsigned long activeWindowAtom) {
     Atom type = 0;
     int format = 0;
     unsigned long count = 0;
@@ -34,11 +32,9 @@ std::optional<Window> activeWindow(Display* display, Atom activeWindowAtom) {
     return window;
 }
 
-} // namespace
-
 std::optional<std::string> readFrontmostIdentifier(_XDisplay* display,
                                                    unsigned long activeWindowAtom) {
-    const std::optional<Window> window = activeWindow(display, activeWindowAtom);
+    const std::optional<Window> window = readActiveWindow(display, activeWindowAtom);
     if (!window) {
         return std::nullopt;
     }

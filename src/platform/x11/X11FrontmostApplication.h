@@ -12,6 +12,10 @@ namespace tarnic::x11 {
 
 class X11Connection;
 
+// The window in _NET_ACTIVE_WINDOW on the root window now, read from the server (one round
+// trip); none without a window manager that sets it, or when no window is active.
+std::optional<unsigned long> readActiveWindow(_XDisplay* display, unsigned long activeWindowAtom);
+
 // The identifier of the application whose window is in _NET_ACTIVE_WINDOW now, read from the
 // server (two round trips); none as described below.
 std::optional<std::string> readFrontmostIdentifier(_XDisplay* display,

@@ -21,16 +21,15 @@ X11FrontmostWatcher::X11FrontmostWatcher(std::shared_ptr<X11Connection> connecti
                                                              refresh();
                                                          }
                                                      });
-    // Listening first, then reading: a change in between is announced, not lost. The main
-    // connection asks for nothing else on the root window, so this mask is all it selects there.
-    XSelectInput(display, root_, PropertyChangeMask);
+    // Listening first, then reading: a change in between is announced, not lost.
+    connection_->selectEvents(root_, PropertyChangeMask);
     identifier_ = readFrontmostIdentifier(display, activeWindowAtom_);
     XFlush(display);
 }
 
 X11FrontmostWatcher::~X11FrontmostWatcher() {
     connection_->eventPump().removeListener(listener_);
-    XSelectInput(connection_->display(), root_, NoEventMask);
+    connection_->deselectEvents(root_, PropertyChangeMask);
     XFlush(connection_->display());
 }
 

@@ -10,14 +10,15 @@ namespace tarnic::x11 {
 // Turns the raw key presses and releases the X server records into the program's two kinds of
 // observation, in macOS virtual key codes: a press or a release of a modifier key is a modifier
 // change; a press of any other key is a key-down; other releases mean nothing. Keys the table
-// does not know, the keycodes this program posts its keypad taps on, and every key typed while
-// this application's own window has the focus, are not reported at all.
+// does not know, the keycodes this program posts its keypad taps on, and every key typed while a
+// window of this process is the active one, are not reported at all.
 class X11KeyRouter {
 public:
     using Handler = KeyObserver::Handler;
 
-    // Asked at each key event that could be reported: true while a window of this application
-    // has the keyboard focus.
+    // Asked at each key event that could be reported: true while a window of this process is the
+    // active one (see X11OwnWindowWatcher). It runs on the key path, so it must not wait for the
+    // server.
     // `ownTap` names the keycodes of the program's own keypad taps (see X11KeypadKeycodes): the
     // recording sees those taps too, and they are neither key-downs nor modifier changes.
     explicit X11KeyRouter(std::function<bool()> ownWindowActive,

@@ -22,7 +22,8 @@ namespace tarnic {
 // the destructors run. When no unused keycode is left, the taps go to the keyboard's own keypad
 // keys with Num Lock on for the tap, and a line on standard error says so.
 //
-// Keys typed while a window of this application has the X input focus are not observed.
+// Keys typed while a window of this process is the active one (any toolkit's: Qt's, or a GTK
+// dialog of a platform theme) are not observed; see X11OwnWindowWatcher.
 //
 // None when the display cannot be opened (no X server, or a Wayland session without XWayland).
 std::optional<Platform> makeX11Platform(const char* displayName = nullptr);
