@@ -35,8 +35,12 @@ void readTypedValues(const QSettings::SettingsMap& map) {
     if (mainDic.isValid()) {
         auto list = tarnic::abilityListFromStored(mainDic);
         if (const auto* read = std::get_if<std::vector<tarnic::AbilityRecord>>(&list)) {
-            check(tarnic::isStoredAbilityList(tarnic::abilityListToStored(*read), *read),
-                  "a list read does not compare equal to itself stored again");
+            // (isStoredAbilityList may say "different" for keys outside ASCII, by design: that
+            // only costs a rewrite, so it is not checked here.)
+            auto again = tarnic::abilityListFromStored(tarnic::abilityListToStored(*read));
+            check(std::get_if<std::vector<tarnic::AbilityRecord>>(&again) != nullptr &&
+                      std::get<std::vector<tarnic::AbilityRecord>>(again) == *read,
+                  "a list does not survive being stored again");
         } else {
             check(!std::get<tarnic::WrongType>(list).found.empty(), "a wrong type without a name");
         }
