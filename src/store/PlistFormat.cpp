@@ -1,6 +1,7 @@
 #include "store/PlistFormat.h"
 
 #include "store/PlistVariant.h"
+#include "store/ReadableKeys.h"
 #include "store/UserDefaults.h"
 
 #include <QIODevice>
@@ -60,7 +61,7 @@ std::optional<QSettings::SettingsMap> settingsFromPlist(const QByteArray& bytes)
     plist_t parsed = nullptr;
     plist_from_memory(bytes.constData(), static_cast<std::uint32_t>(bytes.size()), &parsed);
     PlistPtr root(parsed);
-    if (!root || plist_get_node_type(root.get()) != PLIST_DICT) {
+    if (!root || plist_get_node_type(root.get()) != PLIST_DICT || !keysAreReadable(root.get())) {
         return std::nullopt;
     }
     return variantFromPlist(root.get()).toMap();

@@ -199,5 +199,17 @@ TEST(PlistFormat, WhatIsNotAPropertyListDictionaryReadsAsNothing) {
     EXPECT_TRUE(settingsFromPlist(plistXml("<dict/>"))->isEmpty());
 }
 
+// libplist asserts, ending the process, when asked for a key holding a NUL byte; a binary
+// property list can hold one. Such a list reads as no list at all, so the store is set aside.
+TEST(PlistFormat, ABinaryKeyHoldingANulByteReadsAsNothing) {
+    const std::optional<QSettings::SettingsMap> plain =
+        settingsFromPlist(binaryPlistWithKey(QStringLiteral("a-b")));
+    ASSERT_TRUE(plain.has_value());
+    EXPECT_EQ(plain->value(QStringLiteral("a-b")), QVariant(QStringLiteral("x")));
+
+    EXPECT_FALSE(settingsFromPlist(binaryPlistWithKey(QString::fromLatin1("a\0b", 3))).has_value());
+    EXPECT_FALSE(settingsFromPlist(binaryPlistWithKey(QString(QChar(0)))).has_value());
+}
+
 } // namespace
 } // namespace tarnic

@@ -28,3 +28,9 @@ private:
 
 // The bytes of an XML property list with the given body inside <plist>.
 QByteArray plistXml(const QByteArray& body);
+
+// The bytes of a binary property list holding one dictionary {key: "x"}, written by hand so
+// that the key can hold a NUL (libplist's own writer takes keys as C strings). The key (fewer
+// than 15 UTF-16 units) is stored as UTF-16: libplist cuts an ASCII one at its first NUL, but
+// keeps a UTF-16 one whole.
+QByteArray binaryPlistWithKey(const QString& key);

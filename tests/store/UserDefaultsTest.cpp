@@ -341,6 +341,20 @@ TEST(UserDefaults, UnparsableStoreIsSetAsideAndTheStoreStartsEmpty) {
     EXPECT_EQ(UserDefaults(*reopened).mainDic(), std::vector<AbilityRecord>{kAttack});
 }
 
+TEST(UserDefaults, ABinaryStoreWithAKeyHoldingANulByteIsSetAside) {
+    StoreFolder folder;
+    const QByteArray store = binaryPlistWithKey(QString::fromLatin1("mainDic\0", 8));
+    folder.writeStore(store);
+    CaptureStderr();
+    auto settings = openUserDefaults();
+    const std::string message = GetCapturedStderr();
+    const QStringList aside = folder.setAsideFiles();
+    ASSERT_EQ(aside.size(), 1) << message;
+    EXPECT_EQ(folder.readInStoreFolder(aside[0]), store);
+    EXPECT_TRUE(settings->allKeys().isEmpty());
+    EXPECT_FALSE(UserDefaults(*settings).mainDic().has_value());
+}
+
 TEST(UserDefaults, TopLevelArrayIsTreatedAsUnparsable) {
     StoreFolder folder;
     const QByteArray array =
