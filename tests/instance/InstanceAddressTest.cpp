@@ -1,0 +1,53 @@
+#include "instance/InstanceAddress.h"
+
+#include <gtest/gtest.h>
+
+namespace tarnic {
+namespace {
+
+QString nameOn(const char* display, unsigned uid = 1000) {
+    return InstanceAddress::make(QStringLiteral("/run/user/1000"), uid, QStringLiteral("xcb"),
+                                 display, QByteArray())
+        .name();
+}
+
+TEST(InstanceAddress, OneXDisplayHowEverItIsWritten) {
+    EXPECT_EQ(nameOn(":0"), nameOn(":0.0"));
+    EXPECT_EQ(nameOn(":0"), nameOn("unix:0"));
+    EXPECT_EQ(nameOn(":0"), nameOn(":0.1"));
+}
+
+TEST(InstanceAddress, EachXDisplayAndEachUserHasItsOwn) {
+    EXPECT_NE(nameOn(":0"), nameOn(":1"));
+    EXPECT_NE(nameOn(":1"), nameOn(":10"));
+    EXPECT_NE(nameOn(":0"), nameOn("otherhost:0"));
+    EXPECT_NE(nameOn(":0", 1000), nameOn(":0", 1001));
+    EXPECT_TRUE(nameOn(":0", 1000).contains(QStringLiteral("1000")));
+}
+
+TEST(InstanceAddress, WaylandDisplaysAreApartFromXDisplays) {
+    const auto wayland = [](const char* socket) {
+        return InstanceAddress::make(QStringLiteral("/run/user/1000"), 1000,
+                                     QStringLiteral("wayland"), ":0", socket)
+            .name();
+    };
+    EXPECT_NE(wayland("wayland-0"), nameOn(":0"));
+    EXPECT_NE(wayland("wayland-0"), wayland("wayland-1"));
+    // Unset, Wayland clients use "wayland-0".
+    EXPECT_EQ(wayland(""), wayland("wayland-0"));
+}
+
+TEST(InstanceAddress, FilesLieInTheFolderAndTheirNamesAreSafeAndShort) {
+    const InstanceAddress address = InstanceAddress::make(
+        QStringLiteral("/run/user/1000"), 1000, QStringLiteral("wayland"), QByteArray(),
+        "/some/very/long/path/to/a/compositor/socket/that/goes/on/and/on/wayland-7");
+    EXPECT_TRUE(address.lockPath().startsWith(QStringLiteral("/run/user/1000/")));
+    EXPECT_TRUE(address.serverPath().startsWith(QStringLiteral("/run/user/1000/")));
+    EXPECT_NE(address.lockPath(), address.serverPath());
+    EXPECT_FALSE(address.name().contains(QLatin1Char('/')));
+    EXPECT_LE(address.name().size(), 60);
+    EXPECT_FALSE(nameOn("a/b:0").contains(QLatin1Char('/')));
+}
+
+} // namespace
+} // namespace tarnic
