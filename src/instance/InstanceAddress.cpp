@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QStandardPaths>
 
+#include <cstdio>
 #include <unistd.h>
 
 namespace tarnic {
@@ -68,6 +69,24 @@ QString displayPart(const QString& platformName, const QByteArray& x11Display,
     return part;
 }
 
+QtMessageHandler handlerBefore = nullptr;
+
+// When XDG_RUNTIME_DIR is unset, Qt makes a runtime folder of its own and says so on standard
+// error every time the folder is looked up; the application's start has already looked it up
+// once. The same notice again would be no news, and a second start has only one line of its own
+// to say. Every other message goes on as before.
+void dropRuntimeFolderNotice(QtMsgType type, const QMessageLogContext& context,
+                             const QString& message) {
+    if (message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set"))) {
+        return;
+    }
+    if (handlerBefore != nullptr) {
+        handlerBefore(type, context, message);
+    } else {
+        std::fprintf(stderr, "%s\n", message.toLocal8Bit().constData());
+    }
+}
+
 } // namespace
 
 InstanceAddress InstanceAddress::make(const QString& folder, unsigned uid,
@@ -83,7 +102,10 @@ InstanceAddress InstanceAddress::make(const QString& folder, unsigned uid,
 InstanceAddress InstanceAddress::current(const QString& platformName) {
     // Qt checks that the folder belongs to this user and that nobody else may enter it, and makes
     // one of its own when XDG_RUNTIME_DIR is unset.
+    handlerBefore = qInstallMessageHandler(dropRuntimeFolderNotice);
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    qInstallMessageHandler(handlerBefore);
+    handlerBefore = nullptr;
     return make(folder, static_cast<unsigned>(getuid()), platformName, qgetenv("DISPLAY"),
                 qgetenv("WAYLAND_DISPLAY"));
 }

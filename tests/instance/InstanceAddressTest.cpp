@@ -1,6 +1,12 @@
 #include "instance/InstanceAddress.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QStringList>
+
 #include <gtest/gtest.h>
+
+#include <unistd.h>
 
 namespace tarnic {
 namespace {
@@ -47,6 +53,36 @@ TEST(InstanceAddress, FilesLieInTheFolderAndTheirNamesAreSafeAndShort) {
     EXPECT_FALSE(address.name().contains(QLatin1Char('/')));
     EXPECT_LE(address.name().size(), 60);
     EXPECT_FALSE(nameOn("a/b:0").contains(QLatin1Char('/')));
+}
+
+QStringList messages;
+
+void keepMessage(QtMsgType, const QMessageLogContext&, const QString& message) {
+    messages.append(message);
+}
+
+TEST(InstanceAddress, WithoutXdgRuntimeDirQtsPrivateFolderIsUsedWithoutANotice) {
+    const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
+    const bool had = qEnvironmentVariableIsSet("XDG_RUNTIME_DIR");
+    qunsetenv("XDG_RUNTIME_DIR");
+    messages.clear();
+    const QtMessageHandler previous = qInstallMessageHandler(keepMessage);
+    const InstanceAddress address = InstanceAddress::current(QStringLiteral("xcb"));
+    qWarning("after the lookup");
+    qInstallMessageHandler(previous);
+    if (had) {
+        qputenv("XDG_RUNTIME_DIR", before);
+    }
+
+    EXPECT_EQ(messages, QStringList{QStringLiteral("after the lookup")});
+    ASSERT_FALSE(address.folder().isEmpty());
+    const QFileInfo folder(address.folder());
+    EXPECT_TRUE(folder.isDir());
+    EXPECT_EQ(folder.ownerId(), getuid());
+    EXPECT_EQ(folder.permissions() & (QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
+                                      QFile::ReadOther | QFile::WriteOther | QFile::ExeOther),
+              QFile::Permissions());
+    EXPECT_TRUE(address.name().contains(QString::number(getuid())));
 }
 
 } // namespace
