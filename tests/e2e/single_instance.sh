@@ -227,7 +227,7 @@ handover)
     ;;
 together)
     # Without XDG_RUNTIME_DIR as well: the lock then lies in Qt's private folder for this user.
-    RUNTIME=unset
+    RUNTIME="unset"
     start_copy one
     start_copy two
     deadline=$((SECONDS + 60))
