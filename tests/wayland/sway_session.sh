@@ -264,7 +264,8 @@ make_wine_prefix() {
 expect_wine_tap() {
     local from=$1 seconds=${2:-5}
     wine_tap_seen() {
-        tail -n +"$((from + 1))" "$work/target.out" | awk '
+        # The Windows program ends its lines with CR LF.
+        tail -n +"$((from + 1))" "$work/target.out" | tr -d '\r' | awk '
             $1 == "down" && $2 != 103 { k = 1 }
             k && $1 == "down" && $2 == 103 && $3 == 71 && $4 == 0 { p = 1 }
             p && $1 == "up" && $2 == 103 { r = 1 }
@@ -281,7 +282,7 @@ run_wine_target() {
     make_wine_prefix
     wine_environment "$WINE" "$VKEYLOG" >"$work/target.out" 2>"$work/target.err" &
     TARGET_PID=$!
-    ready() { grep -q '^ready$' "$work/target.out"; }
+    ready() { grep -q $'^ready\r\\?$' "$work/target.out"; }
     wait_until 120 "the Windows program did not start" ready
     vkeylog_mapped() { sway_msg -t get_tree | grep -q '"class": "vkeylog.exe"'; }
     wait_until 30 "no window of the Windows program in sway" vkeylog_mapped
