@@ -9,7 +9,7 @@
 //    the same device (no MappingNotify) and when it came from the compositor's keyboard (the
 //    server switches devices and sends a MappingNotify first, as it does before every tap).
 //
-//   bench_mapping_notify [presses] [samples]
+//   bench_mapping_notify [presses (20)] [samples (60)]
 // Environment: DISPLAY (XWayland), TARNIC_OUTER_DISPLAY (the Xvfb sway runs on), SWAYSOCK.
 #include "support/LineProcess.h"
 #include "support/XTestDriver.h"
@@ -18,10 +18,16 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <X11/Xlib.h>
+#include <X11/extensions/XInput.h>
+#include <X11/extensions/XTest.h>
+
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
+#include <cstring>
 #include <ctime>
+#include <functional>
 #include <thread>
 #include <vector>
 
@@ -70,6 +76,50 @@ bool waitForCount(LineProcess& process, int from, const QString& prefix, const Q
     return count(process, from, prefix, suffix) >= expected;
 }
 
+// Keys posted on the compositor's keyboard device itself (XWayland's slave keyboard) with
+// XTestFakeDeviceKeyEvent, instead of on the XTEST device: the way to tap without a device switch.
+class CompositorKeyboard {
+public:
+    explicit CompositorKeyboard(const QString& name) {
+        display_ = XOpenDisplay(name.toLocal8Bit().constData());
+        if (display_ == nullptr) {
+            return;
+        }
+        int count = 0;
+        XDeviceInfo* devices = XListInputDevices(display_, &count);
+        for (int i = 0; i < count && device_ == nullptr; ++i) {
+            if (devices[i].use == IsXExtensionKeyboard &&
+                std::strstr(devices[i].name, "XTEST") == nullptr) {
+                device_ = XOpenDevice(display_, devices[i].id);
+            }
+        }
+        if (devices != nullptr) {
+            XFreeDeviceList(devices);
+        }
+    }
+    ~CompositorKeyboard() {
+        if (device_ != nullptr) {
+            XCloseDevice(display_, device_);
+        }
+        if (display_ != nullptr) {
+            XCloseDisplay(display_);
+        }
+    }
+    CompositorKeyboard(const CompositorKeyboard&) = delete;
+    CompositorKeyboard& operator=(const CompositorKeyboard&) = delete;
+
+    bool ok() const { return device_ != nullptr; }
+    void key(unsigned keycode, bool press) {
+        XTestFakeDeviceKeyEvent(display_, device_, keycode, press ? True : False, nullptr, 0,
+                                CurrentTime);
+        XFlush(display_);
+    }
+
+private:
+    Display* display_ = nullptr;
+    XDevice* device_ = nullptr;
+};
+
 struct MappingCount {
     int keys = 0;
     int keypads = 0;
@@ -103,9 +153,9 @@ double percentile(std::vector<long long> values, double q) {
            1000.0;
 }
 
-// Press-to-WM_KEYDOWN of C typed with XTest on XWayland, `samples` times; before each, the key
-// `before` typed on `beforeKeyboard` (and arrived), then a pause.
-std::vector<long long> keyDelays(LineProcess& program, XTestDriver& inner,
+// Press-to-WM_KEYDOWN of C typed by `typeC`, `samples` times; before each, the key `before`
+// typed on `beforeKeyboard` (and arrived), then a pause.
+std::vector<long long> keyDelays(LineProcess& program, const std::function<void(bool)>& typeC,
                                  XTestDriver& beforeKeyboard, unsigned before, int samples) {
     std::vector<long long> delays;
     for (int i = 0; i < samples; ++i) {
@@ -117,10 +167,10 @@ std::vector<long long> keyDelays(LineProcess& program, XTestDriver& inner,
         std::this_thread::sleep_for(150ms);
         from = program.lines().size();
         const long long sent = now();
-        inner.press(kC);
+        typeC(true);
         const int down = program.waitForPrefix("down 67 ", from, 5s);
         const long long received = now();
-        inner.release(kC);
+        typeC(false);
         if (down >= 0) {
             delays.push_back(received - sent);
         }
@@ -134,7 +184,7 @@ std::vector<long long> keyDelays(LineProcess& program, XTestDriver& inner,
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
     const int presses = argc > 1 ? std::atoi(argv[1]) : 20;
-    const int samples = argc > 2 ? std::atoi(argv[2]) : 30;
+    const int samples = argc > 2 ? std::atoi(argv[2]) : 60;
     const QString innerDisplay = qEnvironmentVariable("DISPLAY");
     const QString outerDisplay = qEnvironmentVariable("TARNIC_OUTER_DISPLAY");
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -170,6 +220,26 @@ int main(int argc, char** argv) {
     // The first unbound key switches back from the taps' device; counted from the second on.
     typeAndCount(outer, log, kX, 1, false);
     const MappingCount unbound = typeAndCount(outer, log, kX, presses, false);
+    // C on the compositor keyboard's own device after each X from the compositor's keyboard.
+    CompositorKeyboard compositor(innerDisplay);
+    MappingCount sameDevice;
+    if (compositor.ok()) {
+        const int from = log.lines().size();
+        for (int i = 0; i < presses; ++i) {
+            outer.tap(kX);
+            std::this_thread::sleep_for(100ms);
+            compositor.key(kC, true);
+            compositor.key(kC, false);
+            std::this_thread::sleep_for(100ms);
+        }
+        waitForCount(log, from, QString("press %1 ").arg(kC), {}, presses, 20s);
+        log.waitFor([](const QString&) { return false; }, log.lines().size(), 500ms);
+        sameDevice = {count(log, from, QString("press %1 ").arg(kC)), 0,
+                      count(log, from, "mapping ")};
+    } else {
+        std::fprintf(stderr, "no slave keyboard of the compositor on %s\n",
+                     qPrintable(innerDisplay));
+    }
     kill(static_cast<pid_t>(harness.processId()), SIGTERM);
     harness.waitForExit(20s);
 
@@ -185,6 +255,11 @@ int main(int argc, char** argv) {
     std::printf("| %-34s | %8d | %12d | %16d | %18.2f |\n", "unbound key (X)", unbound.keys,
                 unbound.keypads, unbound.mappings,
                 unbound.keys > 0 ? static_cast<double>(unbound.mappings) / unbound.keys : 0.0);
+    std::printf("| %-34s | %8d | %12s | %16d | %18.2f |\n", "X, then C posted on its device (*)",
+                sameDevice.keys, "-", sameDevice.mappings,
+                sameDevice.keys > 0 ? static_cast<double>(sameDevice.mappings) / sameDevice.keys
+                                    : 0.0);
+    std::printf("(*) XTestFakeDeviceKeyEvent on XWayland's slave keyboard, not core XTest\n");
     std::fflush(stdout);
 
     // The Windows program, in a fresh prefix.
@@ -225,33 +300,57 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "the Windows program never got the focus\n");
         return 1;
     }
-    keyDelays(program, inner, inner, kB, 5); // warm-up
-    const int sameFrom = log.lines().size();
-    const std::vector<long long> same = keyDelays(program, inner, inner, kB, samples);
-    const int sameMappings = count(log, sameFrom, "mapping ");
-    const int switchFrom = log.lines().size();
-    const std::vector<long long> switched = keyDelays(program, inner, outer, kA, samples);
-    log.waitFor([](const QString&) { return false; }, log.lines().size(), 300ms);
-    const int switchMappings = count(log, switchFrom, "mapping ");
+    const auto xtestC = [&](bool press) { press ? inner.press(kC) : inner.release(kC); };
+    const auto deviceC = [&](bool press) { compositor.key(kC, press); };
+    keyDelays(program, xtestC, inner, kB, 5); // warm-up
+    // The three cases take turns, so that a change in the machine's load falls on all of them.
+    struct Case {
+        std::function<void(bool)> typeC;
+        XTestDriver* beforeKeyboard;
+        unsigned before;
+        std::vector<long long> delays;
+        int mappings = 0;
+    };
+    std::vector<Case> cases = {{xtestC, &inner, kB, {}, 0}, {xtestC, &outer, kA, {}, 0}};
+    if (compositor.ok()) {
+        cases.push_back({deviceC, &outer, kA, {}, 0});
+    }
+    for (int i = 0; i < samples; ++i) {
+        for (Case& one : cases) {
+            const int from = log.lines().size();
+            const std::vector<long long> delay =
+                keyDelays(program, one.typeC, *one.beforeKeyboard, one.before, 1);
+            one.delays.insert(one.delays.end(), delay.begin(), delay.end());
+            log.waitFor([](const QString&) { return false; }, log.lines().size(), 30ms);
+            one.mappings += count(log, from, "mapping ");
+        }
+    }
+    const std::vector<long long>& same = cases[0].delays;
+    const std::vector<long long>& switched = cases[1].delays;
+    const std::vector<long long> onDevice =
+        compositor.ok() ? cases[2].delays : std::vector<long long>{};
 
-    std::printf(
-        "\nA key typed with XTest on XWayland, from press to WM_KEYDOWN in a Windows program "
-        "under Wine (microseconds)\n\n");
-    std::printf("| %-46s | %7s | %14s | %9s | %9s | %9s |\n", "key before it", "samples",
-                "MappingNotify", "p50", "p90", "max");
-    std::printf("|------------------------------------------------|---------|----------------|"
+    std::printf("\nA key C, from press to WM_KEYDOWN in a Windows program "
+                "under Wine (microseconds); C typed with core XTest unless marked (*)\n\n");
+    std::printf("| %-48s | %7s | %14s | %9s | %9s | %9s |\n", "key before it", "samples",
+                "MappingNotify", "min", "p50", "p90");
+    std::printf("|--------------------------------------------------|---------|----------------|"
                 "-----------|-----------|-----------|\n");
     const auto row = [](const char* name, const std::vector<long long>& delays, int mappings) {
-        std::printf("| %-46s | %7zu | %14d | %9.1f | %9.1f | %9.1f |\n", name, delays.size(),
-                    mappings, percentile(delays, 0.5), percentile(delays, 0.9),
-                    percentile(delays, 1.0));
+        std::printf("| %-48s | %7zu | %14d | %9.1f | %9.1f | %9.1f |\n", name, delays.size(),
+                    mappings, percentile(delays, 0.0), percentile(delays, 0.5),
+                    percentile(delays, 0.9));
     };
-    row("XTest, same device: no MappingNotify", same, sameMappings);
-    // Two per sample: one before the measured key, one for the key before it.
-    row("compositor keyboard: device switch first", switched, switchMappings);
+    row("B by XTest: no device switch before C", same, cases[0].mappings);
+    row("A on compositor keyboard: switch before C", switched, cases[1].mappings);
+    row("A on compositor keyboard, C on its device (*)", onDevice,
+        compositor.ok() ? cases[2].mappings : 0);
+    std::printf("MappingNotify counts every device switch in the samples; only the second row has "
+                "one between the key before and C\n");
     const double added = percentile(switched, 0.5) - percentile(same, 0.5);
-    std::printf("\nadded by one MappingNotify (p50 difference): %.1f us%s\n", added,
-                added >= 1000.0 ? "  (1 ms or more)" : "");
+    const double addedAtLeast = percentile(switched, 0.0) - percentile(same, 0.0);
+    std::printf("\nadded by one MappingNotify: %.1f us at p50, %.1f us at the minimum%s\n", added,
+                addedAtLeast, added >= 1000.0 ? "  (1 ms or more)" : "");
     program.stop();
     QProcess server;
     server.setProcessEnvironment(environment);
