@@ -16,7 +16,8 @@ namespace tarnic {
 QByteArray settingsToPlist(const QSettings::SettingsMap& map);
 
 // The settings map that a property list (XML or binary) holds; nullopt when the bytes are not a
-// property list or its top level is not a dictionary.
+// property list, its top level is not a dictionary, or it nests deeper than any store of this
+// program (16 levels of arrays and dictionaries).
 std::optional<QSettings::SettingsMap> settingsFromPlist(const QByteArray& bytes);
 
 } // namespace tarnic
