@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <ostream>
 #include <future>
 #include <string>
 
@@ -32,6 +33,11 @@ struct Kind {
     std::function<bool(const QString&)> is;
     const char* reason;
 };
+
+// Failure messages name the kind, not its bytes.
+void PrintTo(const Kind& kind, std::ostream* out) {
+    *out << kind.name;
+}
 
 std::vector<Kind> kinds() {
     return {
