@@ -10,6 +10,7 @@
 #include "core/editor/SelectionDetail.h"
 #include "core/fatal/Fatal.h"
 #include "core/import/CustomKeysImport.h"
+#include "files/RegularFileReader.h"
 #include "gui/AbilityTableView.h"
 #include "gui/GuiResources.h"
 #include "gui/Outlet.h"
@@ -49,7 +50,7 @@ QPixmap pictureNamed(const std::string& name) {
 }
 
 // The game's own file is about 60 kB; anything past this is not a hotkey file, and reading stops
-// there (a device that never ends reads no further either).
+// there.
 constexpr qint64 kLargestHotkeyFile = 4 * 1024 * 1024;
 
 QString clashCountText(std::size_t count) {
@@ -283,24 +284,21 @@ void ViewController::readCustomKeys(const std::optional<QString>& path) {
 Alert ViewController::importFrom(const QString& path) {
     const QString name = QFileInfo(path).fileName();
     const QString unchanged = QStringLiteral("Nothing was changed.");
-    QFile file(path);
-    const auto unreadable = [&] {
-        return importAlert(QStringLiteral("\u201C%1\u201D could not be read.").arg(name),
-                           file.errorString() + QStringLiteral(". ") + unchanged,
-                           QMessageBox::Warning);
-    };
-    if (!file.open(QIODevice::ReadOnly)) {
-        return unreadable();
-    }
-    const QByteArray bytes = file.read(kLargestHotkeyFile + 1);
-    if (file.error() != QFileDevice::NoError) {
-        return unreadable();
-    }
-    if (bytes.size() > kLargestHotkeyFile) {
+    const FileContents file = RegularFileReader(kLargestHotkeyFile).read(path);
+    if (file.status == FileContents::Status::TooLarge) {
         return importAlert(
             QStringLiteral("\u201C%1\u201D is too large for a hotkey file.").arg(name), unchanged,
             QMessageBox::Warning);
     }
+    if (!file.isRead()) {
+        QString reason = file.reason;
+        if (!reason.isEmpty()) {
+            reason[0] = reason[0].toUpper();
+        }
+        return importAlert(QStringLiteral("\u201C%1\u201D could not be read.").arg(name),
+                           reason + QStringLiteral(". ") + unchanged, QMessageBox::Warning);
+    }
+    const QByteArray& bytes = file.bytes;
     const ImportReport report = importCustomKeys(
         mainDic, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
     if (!report.holdsCatalogue()) {

@@ -1,5 +1,6 @@
 #include "store/PlistFormat.h"
 
+#include "store/PlistNesting.h"
 #include "store/PlistVariant.h"
 #include "store/ReadableKeys.h"
 #include "store/UserDefaults.h"
@@ -10,10 +11,26 @@
 #include <cstdlib>
 #include <limits>
 #include <memory>
+#include <string_view>
 
 namespace tarnic {
 
 namespace {
+
+// How deep the store's containers may nest. The program's own store nests three deep (the
+// top-level dictionary, the "mainDic" array, a record's dictionary); the rest is room for a file
+// edited by hand. A deeper one is no store of this program, and is read as no property list at
+// all, before libplist, whose tree is built and freed by recursion, ever sees it.
+constexpr int kDeepestStore = 16;
+
+bool nestsWithinBounds(std::string_view bytes) {
+    if (bytes.starts_with("bplist00")) {
+        // Each object a walk can reach costs at least one byte of references, unless objects
+        // that hold others are shared, which no writer of property lists does.
+        return binaryPlistNestsWithin(bytes, kDeepestStore, bytes.size());
+    }
+    return xmlPlistNestsWithin(bytes, kDeepestStore);
+}
 
 struct PlistFree {
     void operator()(plist_t node) const { plist_free(node); }
@@ -56,6 +73,10 @@ QByteArray settingsToPlist(const QSettings::SettingsMap& map) {
 
 std::optional<QSettings::SettingsMap> settingsFromPlist(const QByteArray& bytes) {
     if (bytes.isEmpty() || bytes.size() > std::numeric_limits<std::uint32_t>::max()) {
+        return std::nullopt;
+    }
+    if (!nestsWithinBounds(
+            std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())))) {
         return std::nullopt;
     }
     plist_t parsed = nullptr;

@@ -1,6 +1,10 @@
 #include "store/ProgramOptions.h"
 
+#include "files/RegularFileReader.h"
+
 #include <QStandardPaths>
+
+#include <cstdio>
 
 namespace tarnic {
 
@@ -25,7 +29,20 @@ QString programOptionsPath() {
 }
 
 std::unique_ptr<QSettings> openProgramOptions() {
-    auto settings = std::make_unique<QSettings>(programOptionsPath(), QSettings::IniFormat);
+    const QString path = programOptionsPath();
+    // QSettings would wait for ever to open a named pipe, and read a device as a file. Anything
+    // but a regular file is left as it is, never opened: the options start off and live in memory
+    // only (a settings object without a file keeps nothing).
+    const FileContents found = RegularFileReader().check(path);
+    if (found.status == FileContents::Status::NotRegular) {
+        std::fprintf(stderr,
+                     "Tarnic Pro could not read its options file \"%s\": %s. The options start "
+                     "off, and changes to them are not kept.\n",
+                     path.toLocal8Bit().constData(), found.reason.toLocal8Bit().constData());
+        std::fflush(stderr);
+        return std::make_unique<QSettings>(QString(), QSettings::IniFormat);
+    }
+    auto settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
     settings->setAtomicSyncRequired(true);
     return settings;
 }

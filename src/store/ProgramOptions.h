@@ -18,7 +18,9 @@ namespace tarnic {
 QString programOptionsPath();
 
 // The options file on programOptionsPath(). A missing file, a missing key or a value that is not
-// a truth value reads as off: these are preferences, and a damaged file costs only them.
+// a truth value reads as off: these are preferences, and a damaged file costs only them. A path
+// that names a named pipe, a socket, a device or a folder is never opened: the options are off,
+// kept in memory only, and standard error says why.
 std::unique_ptr<QSettings> openProgramOptions();
 
 // Typed access to the options. Every change is written to the file at once.

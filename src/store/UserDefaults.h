@@ -25,7 +25,9 @@ QString userDefaultsPath();
 // The application's store, on userDefaultsPath() alone (no organization-wide or system-wide
 // fallback files). A store file that cannot be parsed at all is copied aside first (and said so
 // on standard error), then the store starts empty, so the next write cannot destroy what was
-// there.
+// there. A path that names no regular file (a named pipe, a socket, a device, a folder) is moved
+// aside the same way without ever being opened; if it cannot be moved, the store lives in memory
+// only and keeps nothing.
 std::unique_ptr<QSettings> openUserDefaults();
 
 // Typed access to the keys the program stores: "mainDic" and "inventoryModel1".."6".

@@ -248,6 +248,15 @@ TEST_F(AbilityTableDeathTest, NoSelectedRowIsAnIndexOutOfRange) {
     EXPECT_DEATH(vc().tableViewSelectionDidChange(), "Index out of range");
 }
 
+TEST_F(AbilityTableDeathTest, AnEmptyListEndsTheProgramWhenAHotkeyIsChosen) {
+    // A store whose list was emptied by hand: the table is empty, no row is selected, and a key
+    // chosen in the Hotkey pop-up has no ability to go to.
+    storeMainDic({});
+    launch();
+    ASSERT_EQ(vc().tableModel().rowCount(), 0);
+    EXPECT_DEATH(choose(*ui().keysPopup, "K"), "Fatal error: Index out of range: row -1 of 0");
+}
+
 TEST_F(AbilityTableDeathTest, RecordWithoutNameEndsTheProgramWhenSelected) {
     auto list = generalCommands();
     list[1].erase(name_spell);

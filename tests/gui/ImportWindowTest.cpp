@@ -2,6 +2,7 @@
 
 #include "core/catalogue/Catalogue.h"
 #include "core/editor/KeyAssignment.h"
+#include "support/SpecialFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -202,7 +203,51 @@ TEST_F(ImportWindow, AFolderIsNoFileToRead) {
     importAnswering(tempPath("CustomKeys.txt"));
     EXPECT_EQ(message().text, "“CustomKeys.txt” could not be read.");
     EXPECT_EQ(message().icon, QMessageBox::Warning);
-    EXPECT_TRUE(message().informativeText.endsWith("Nothing was changed."));
+    EXPECT_EQ(message().informativeText,
+              "It is a folder, not a regular file. Nothing was changed.");
+    EXPECT_EQ(vc().mainDic, all_data());
+}
+
+TEST_F(ImportWindow, ANamedPipeIsTurnedAwayWithoutWaitingForAWriter) {
+    clickRow(3);
+    choose(*ui().keysPopup, "K");
+    const auto before = vc().mainDic;
+    const QString pipe = tempPath("x.fifo");
+    ASSERT_TRUE(makeNamedPipe(pipe));
+    {
+        // Should the import wait in open() for a writer, the watchdog is that writer after a
+        // while, and the test fails instead of hanging.
+        PipeWatchdog watchdog(pipe);
+        importAnswering(pipe);
+        EXPECT_FALSE(watchdog.fired()) << "the import waited on the named pipe";
+    }
+    EXPECT_EQ(message().text, "“x.fifo” could not be read.");
+    EXPECT_EQ(message().informativeText,
+              "It is a named pipe, not a regular file. Nothing was changed.");
+    EXPECT_EQ(message().icon, QMessageBox::Warning);
+    EXPECT_EQ(vc().mainDic, before);
+    EXPECT_TRUE(isNamedPipe(pipe));
+}
+
+TEST_F(ImportWindow, ASocketIsTurnedAway) {
+    const BoundSocket socket(tempPath("keys.sock"));
+    ASSERT_TRUE(socket.isBound());
+    importAnswering(tempPath("keys.sock"));
+    EXPECT_EQ(message().text, "“keys.sock” could not be read.");
+    EXPECT_EQ(message().informativeText,
+              "It is a socket, not a regular file. Nothing was changed.");
+    EXPECT_EQ(vc().mainDic, all_data());
+}
+
+TEST_F(ImportWindow, ADeviceIsTurnedAway) {
+    for (const char* device : {"/dev/zero", "/dev/null"}) {
+        alerts().shown.clear();
+        importAnswering(QLatin1String(device));
+        EXPECT_EQ(message().text,
+                  QStringLiteral("“%1” could not be read.").arg(QLatin1String(device).mid(5)));
+        EXPECT_EQ(message().informativeText,
+                  "It is a character device, not a regular file. Nothing was changed.");
+    }
     EXPECT_EQ(vc().mainDic, all_data());
 }
 

@@ -184,6 +184,22 @@ TEST_F(InventoryPanel, EverySymbolAndLetterCanBeBound) {
     }
 }
 
+TEST_F(InventoryPanel, AStoredBindingThatCanNeverTapShowsAsDamaged) {
+    shutDown();
+    // The game has no seventh slot: Z would tap nothing.
+    storeRaw("inventoryModel1", QVariantList{7, 0, 6});
+    storeRaw("inventoryModel4", QVariantList{4, 0, 999});
+    launch();
+    EXPECT_EQ(slotButton(1).text(), "Slot 1  (damaged)");
+    EXPECT_EQ(slotButton(4).text(), "Slot 4  (damaged)");
+    // Such a binding has all three elements: showing it in the panel does not end the program,
+    // and picking a key mends it.
+    click(slotButton(1));
+    EXPECT_EQ(shownTitle(), "Z");
+    choose(*ui().inventPopup, "Q");
+    EXPECT_EQ(slotButton(1).text(), "Slot 1  Q");
+}
+
 using InventoryPanelDeathTest = InventoryPanel;
 
 TEST_F(InventoryPanelDeathTest, ShortStoredBindingEndsTheProgramWhenShown) {

@@ -67,5 +67,54 @@ TEST_F(RemapperDeathTest, KeysInOwnWindowNeverReachTheShortBinding) {
     EXPECT_FALSE(fakes.keyObserver->pressKey(12));
 }
 
+TEST_F(RemapperDeathTest, ModifierKeysAloneNeverReachTheShortBinding) {
+    models[0] = {1, 56};
+    for (const int modifier : {56, 60, 59, 58, 55, 57}) {
+        EXPECT_TRUE(fakes.keyObserver->changeModifier(modifier));
+    }
+    EXPECT_TRUE(fakes.keyPoster->posts().empty());
+}
+
+TEST_F(RemapperDeathTest, UntrustedTheShortBindingIsNeverTested) {
+    models[0] = {1, 0};
+    fakes.accessibilityTrust->setTrusted(false);
+    EXPECT_FALSE(fakes.keyObserver->pressKey(12));
+}
+
+// With an option holding the bound keys back, a key that may not tap tests no binding either: the
+// short one ends the program only at a key that could have tapped.
+class RemapperOptionsDeathTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        GTEST_FLAG_SET(death_test_style, "threadsafe");
+        session.installObservers();
+    }
+
+    Platform platform = makeFakePlatform();
+    FakeParts fakes = fakeParts(platform);
+    InventoryRemapper::Models models;
+    InventoryOptions options;
+    RemapperSession session{models, options, platform};
+};
+
+TEST_F(RemapperOptionsDeathTest, OnlyWhileTheGameIsInFrontKeysInOtherProgramsDoNotEndIt) {
+    models[1] = {2, 0};
+    options.onlyWhileGameInFront = true;
+    fakes.frontmostWatcher->announce("notepad.exe");
+    EXPECT_TRUE(fakes.keyObserver->pressKey(12));
+    fakes.frontmostWatcher->announce("com.blizzard.WarcraftIII");
+    EXPECT_DEATH(fakes.keyObserver->pressKey(12), "Index out of range");
+}
+
+TEST_F(RemapperOptionsDeathTest, WhileChatPausesTheKeysTheyDoNotEndIt) {
+    models[1] = {2, 0};
+    options.pauseWhileTypingInChat = true;
+    fakes.frontmostWatcher->announce("com.blizzard.WarcraftIII");
+    session.remapper().chatOpen = true;
+    EXPECT_TRUE(fakes.keyObserver->pressKey(12));
+    EXPECT_TRUE(fakes.keyObserver->pressKey(53)); // Escape closes the chat line
+    EXPECT_DEATH(fakes.keyObserver->pressKey(12), "Index out of range");
+}
+
 } // namespace
 } // namespace tarnic

@@ -37,6 +37,17 @@ QStringList StoreFolder::setAsideFiles() const {
         .entryList({QStringLiteral("Tarnic Pro.plist.unreadable-*")}, QDir::Files, QDir::Name);
 }
 
+QStringList StoreFolder::setAsideEntries() const {
+    return QDir(configHome() + QStringLiteral("/Tarnic"))
+        .entryList({QStringLiteral("Tarnic Pro.plist.unreadable-*")},
+                   QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot,
+                   QDir::Name);
+}
+
+QString StoreFolder::inStoreFolder(const QString& name) const {
+    return configHome() + QStringLiteral("/Tarnic/") + name;
+}
+
 QByteArray StoreFolder::readInStoreFolder(const QString& name) const {
     QFile file(configHome() + QStringLiteral("/Tarnic/") + name);
     if (!file.open(QIODevice::ReadOnly)) {

@@ -20,6 +20,10 @@ public:
     QByteArray readStore() const;
     // Names of the files in the store's folder that were set aside as unreadable.
     QStringList setAsideFiles() const;
+    // Everything in the store's folder that was set aside, whatever it is (a named pipe, a
+    // folder, a link too).
+    QStringList setAsideEntries() const;
+    QString inStoreFolder(const QString& name) const;
     QByteArray readInStoreFolder(const QString& name) const;
 
 private:

@@ -43,12 +43,31 @@ std::optional<InventoryModel> bindingFrom(std::int64_t editing, std::string_view
     return InventoryModel{editing, modifier, key};
 }
 
+namespace {
+
+// Virtual key codes are seven bits wide: no key, and so no key press, has a code outside 0..127.
+constexpr std::int64_t kLargestKeyCode = 127;
+
+bool isKeyCode(std::int64_t code) {
+    return code >= 0 && code <= kLargestKeyCode;
+}
+
+// Whether a whole model can never tap: a slot the game does not have (inventoryPress posts
+// nothing for it), or a trigger or modifier code that no key press can ever equal. "Select"
+// (kNoKey) is the player's own choice of no key, not damage.
+bool neverTaps(const InventoryModel& model) {
+    const bool slotExists = model[0] >= 1 && model[0] <= 6;
+    return !slotExists || !(model[2] == kNoKey || isKeyCode(model[2])) || !isKeyCode(model[1]);
+}
+
+} // namespace
+
 std::string slotTitle(int slot, const InventoryModel& model) {
     std::string title = "Slot " + std::to_string(slot) + "  ";
     if (model.empty()) {
         return title + "none";
     }
-    if (model.size() < 3) {
+    if (model.size() < 3 || neverTaps(model)) {
         return title + "(damaged)";
     }
     const InventoryDisplay shown = displayOf(model);

@@ -36,10 +36,12 @@ std::optional<InventoryModel> bindingFrom(std::int64_t editing, std::string_view
 // The title of slot button `slot` for the slot's binding, two spaces between the two parts:
 // "Slot 1  Z", "Slot 1  Shift+Z" (any modifier but 0, as the Shift box shows it), "Slot 1  none"
 // while unbound, and "Slot 1  (no key)" or "Slot 1  Shift+(no key)" for a binding that names no
-// key of the key table ("Select" was picked): bound, but no key press can match it. A non-empty
-// model shorter than three elements (only a store edited by hand holds one) shows
-// "Slot 1  (damaged)": the titles are made at start-up, which such a model must not end; showing
-// it in the panel, or testing it at a key press, still does.
+// key of the key table ("Select" was picked): bound, but no key press can match it. A binding only
+// a store edited by hand can hold shows "Slot 1  (damaged)": one that can never tap (a slot
+// other than 1 to 6, or a trigger or modifier code outside the key codes 0 to 127, "Select"'s -1
+// aside), and a non-empty model shorter than three elements. The titles are made at start-up,
+// which such a short model must not end; showing it in the panel, or testing it at a key press,
+// still does.
 std::string slotTitle(int slot, const InventoryModel& model);
 
 } // namespace tarnic

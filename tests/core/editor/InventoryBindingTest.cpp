@@ -77,7 +77,9 @@ TEST(InventoryBinding, SlotTitleNamesTheBindingOrNone) {
 
 TEST(InventoryBinding, SlotTitleOfABindingWithoutAKeySaysSo) {
     EXPECT_EQ(slotTitle(2, {2, 0, -1}), "Slot 2  (no key)");
-    EXPECT_EQ(slotTitle(5, {5, 56, 999}), "Slot 5  Shift+(no key)");
+    EXPECT_EQ(slotTitle(5, {5, 56, -1}), "Slot 5  Shift+(no key)");
+    // A key code with no label in the pop-up can be a key all the same.
+    EXPECT_EQ(slotTitle(5, {5, 0, 127}), "Slot 5  (no key)");
     // Any modifier but 0 shows as Shift, as the panel's box does.
     EXPECT_EQ(slotTitle(4, {4, 59, 12}), "Slot 4  Shift+Q");
 }
@@ -85,6 +87,21 @@ TEST(InventoryBinding, SlotTitleOfABindingWithoutAKeySaysSo) {
 TEST(InventoryBinding, SlotTitleOfAShortModelSaysItIsDamagedInsteadOfEndingTheProgram) {
     EXPECT_EQ(slotTitle(2, {2, 0}), "Slot 2  (damaged)");
     EXPECT_EQ(slotTitle(3, {3}), "Slot 3  (damaged)");
+}
+
+TEST(InventoryBinding, SlotTitleOfABindingThatCanNeverTapSaysItIsDamaged) {
+    // The slot is the stored value itself: the game has no seventh slot, and nothing taps.
+    EXPECT_EQ(slotTitle(1, {7, 0, 6}), "Slot 1  (damaged)");
+    EXPECT_EQ(slotTitle(1, {0, 0, 6}), "Slot 1  (damaged)");
+    EXPECT_EQ(slotTitle(2, {-2, 56, 6}), "Slot 2  (damaged)");
+    // No key has a code past 127, or below 0 but "Select"'s -1.
+    EXPECT_EQ(slotTitle(5, {5, 56, 999}), "Slot 5  (damaged)");
+    EXPECT_EQ(slotTitle(5, {5, 0, -2}), "Slot 5  (damaged)");
+    EXPECT_EQ(slotTitle(3, {3, 4096, 12}), "Slot 3  (damaged)");
+    EXPECT_EQ(slotTitle(3, {3, -1, 12}), "Slot 3  (damaged)");
+    // The edges that can still tap.
+    EXPECT_EQ(slotTitle(6, {6, 0, 0}), "Slot 6  A");
+    EXPECT_EQ(slotTitle(1, {1, 60, 6}), "Slot 1  Shift+Z");
 }
 
 TEST(InventoryBinding, SlotTitleIsTheButtonsSlotWhateverTheModelSays) {
