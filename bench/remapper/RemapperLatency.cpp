@@ -364,7 +364,7 @@ int main(int argc, char** argv) {
             const int from = log.lines().size();
             const long long start = now();
             const std::vector<long long> sent = type(driver, log, tool.trigger, presses, spacingMs);
-            allArrived = waitForKeypadReleases(log, keypads, from, presses, 60s) && allArrived;
+            allArrived = waitForKeypadReleases(log, keypads, from, presses, 15s) && allArrived;
             const unsigned trigger = tool.trigger;
             account(tool, sent,
                     recorder.pressesOf([trigger](unsigned keycode) { return keycode == trigger; },
