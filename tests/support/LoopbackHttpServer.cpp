@@ -20,7 +20,11 @@ LoopbackHttpServer::~LoopbackHttpServer() {
 }
 
 bool LoopbackHttpServer::listen() {
-    return server_.listen(QHostAddress::LocalHost, 0);
+    return listen(0);
+}
+
+bool LoopbackHttpServer::listen(quint16 port) {
+    return server_.listen(QHostAddress::LocalHost, port);
 }
 
 QString LoopbackHttpServer::baseUrl() const {

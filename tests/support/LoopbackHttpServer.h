@@ -26,6 +26,8 @@ public:
 
     // Listens on a free port; false when no port could be had.
     bool listen();
+    // Listens on this port (the one a program was built to ask); false when it is taken.
+    bool listen(quint16 port);
     quint16 port() const { return server_.serverPort(); }
     // http://127.0.0.1:<port>
     QString baseUrl() const;

@@ -98,6 +98,11 @@ QProcessEnvironment XvfbSession::environment() const {
     return environment;
 }
 
+bool XvfbSession::killServer() {
+    server_.kill();
+    return server_.waitForFinished(10000) || server_.state() == QProcess::NotRunning;
+}
+
 bool XvfbSession::startServer(const QStringList& serverArguments) {
     // Xvfb writes the display number it chose to standard output once it accepts clients.
     endWithTest(server_);

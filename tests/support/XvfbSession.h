@@ -25,6 +25,10 @@ public:
     // The caller's environment with DISPLAY set and Qt on xcb.
     QProcessEnvironment environment() const;
 
+    // Kills the X server outright (SIGKILL), as a crash would end it, and waits until it is
+    // gone; true if it is.
+    bool killServer();
+
 private:
     bool startServer(const QStringList& serverArguments);
     bool startWindowManager();

@@ -19,6 +19,7 @@
 
 #include <chrono>
 #include <csignal>
+#include <cstdio>
 #include <optional>
 #include <string>
 
@@ -72,6 +73,63 @@ bool isCursorKey(unsigned virtualKey) {
     // off or Shift held.
     return (virtualKey >= 0x21 && virtualKey <= 0x28) || virtualKey == 0x2d || virtualKey == 0x2e ||
            virtualKey == 0x0c;
+}
+
+// What a process printed (standard output and error together), its last `limit` characters.
+QString tail(QProcess& process, qsizetype limit = 4000) {
+    const QString output = QString::fromLocal8Bit(process.readAll());
+    return output.size() <= limit ? output : "[...]\n" + output.right(limit);
+}
+
+// Runs `program arguments` to its end (at most `timeout`); empty when it succeeded, else what
+// went wrong, with its output.
+QString runWine(const QString& program, const QStringList& arguments,
+                const QProcessEnvironment& environment, std::chrono::milliseconds timeout) {
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    const QString command = program + " " + arguments.join(' ');
+    process.start(program, arguments);
+    if (!process.waitForStarted(30000)) {
+        return command + " did not start: " + process.errorString();
+    }
+    if (!process.waitForFinished(static_cast<int>(timeout.count()))) {
+        process.kill();
+        process.waitForFinished(10000);
+        return QString("%1 took more than %2 s; its output:\n%3")
+            .arg(command)
+            .arg(timeout.count() / 1000)
+            .arg(tail(process));
+    }
+    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
+        return QString("%1 ended with %2 %3; its output:\n%4")
+            .arg(command)
+            .arg(process.exitStatus() == QProcess::NormalExit ? "status" : "signal")
+            .arg(process.exitCode())
+            .arg(tail(process));
+    }
+    return {};
+}
+
+// Makes the prefix; empty when it is ready, else both tries with their output. The very first
+// wineboot on a machine has been seen to fail (status 53) where every later one passed, so a
+// failed try is followed, once its wineserver has ended, by a second one.
+QString bootPrefix(QProcessEnvironment environment) {
+    // Wine's own errors are wanted in the output here, its fixme notes are not.
+    environment.insert("WINEDEBUG", "fixme-all");
+    const QString first = runWine(TARNIC_WINE_PATH, {"wineboot", "-i"}, environment, 300s);
+    if (first.isEmpty()) {
+        return {};
+    }
+    std::fprintf(stderr, "wineboot failed, trying once more: %s\n", qPrintable(first));
+    const QString wait = runWine(TARNIC_WINESERVER_PATH, {"-w"}, environment, 120s);
+    const QString second = runWine(TARNIC_WINE_PATH, {"wineboot", "-i"}, environment, 300s);
+    if (second.isEmpty()) {
+        return {};
+    }
+    return "the Wine prefix could not be made. First try: " + first +
+           (wait.isEmpty() ? QString() : "\nWaiting for the wineserver: " + wait) +
+           "\nSecond try: " + second;
 }
 
 class WineRemapperTest : public ::testing::Test {
@@ -219,21 +277,8 @@ TEST_F(WineRemapperTest, TapsReachAWindowsProgramAsNumpadKeysWithShiftHeldAndNum
     environment.insert("WINEPREFIX", prefix.path());
     environment.insert("WINEDEBUG", "-all");
     environment.insert("WINEDLLOVERRIDES", "mscoree=;mshtml=");
-    {
-        QProcess boot;
-        boot.setProcessEnvironment(environment);
-        boot.setStandardOutputFile(QProcess::nullDevice());
-        boot.setStandardErrorFile(QProcess::nullDevice());
-        boot.start(TARNIC_WINE_PATH, {"wineboot", "-i"});
-        ASSERT_TRUE(boot.waitForStarted(30000));
-        const bool finished = boot.waitForFinished(300000);
-        if (!finished) {
-            boot.kill();
-            boot.waitForFinished(10000);
-        }
-        ASSERT_TRUE(finished) << "wineboot took more than 5 minutes";
-        ASSERT_EQ(boot.exitCode(), 0);
-    }
+    const QString bootFailure = bootPrefix(environment);
+    ASSERT_TRUE(bootFailure.isEmpty()) << bootFailure.toStdString();
 
     // First the bindings without a modifier: they fire with Shift held too.
     QStringList plain;

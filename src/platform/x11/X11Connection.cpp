@@ -5,8 +5,10 @@
 #include <X11/Xlib.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <map>
 #include <mutex>
+#include <unistd.h>
 
 namespace tarnic::x11 {
 
@@ -32,6 +34,17 @@ int countError(Display* display, XErrorEvent* event) {
     return gPreviousHandler ? gPreviousHandler(display, event) : 0;
 }
 
+// The X server is gone (it crashed, or the session ended under us). Nothing can be done without
+// it: the claimed keycodes went with it, and no window can be shown. Say so in one line and end
+// at once, without running destructors or exit handlers that could still touch the store or
+// talk to the dead server. Xlib's default would print two lines and then call exit().
+int endWithoutServer(Display* display) {
+    std::fprintf(stderr, "Tarnic Pro: lost the connection to the X server %s; ending\n",
+                 DisplayString(display));
+    std::fflush(stderr);
+    _exit(1);
+}
+
 } // namespace
 
 std::shared_ptr<X11Connection> X11Connection::open(const char* displayName) {
@@ -44,6 +57,8 @@ std::shared_ptr<X11Connection> X11Connection::open(const char* displayName) {
         gErrorCounts[display] = 0;
         if (!gHandlerInstalled) {
             gPreviousHandler = XSetErrorHandler(countError);
+            // Replaces Qt's, which would print a line of its own before Xlib's two.
+            XSetIOErrorHandler(endWithoutServer);
             gHandlerInstalled = true;
         }
     }

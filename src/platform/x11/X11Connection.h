@@ -12,7 +12,8 @@ class X11EventPump;
 
 // One Xlib connection to the X server, closed when the last owner lets go. X protocol errors on
 // our connections are counted instead of ending the process (Xlib's default): a window can vanish
-// between two requests, and that is no reason to stop.
+// between two requests, and that is no reason to stop. A connection that breaks (the X server
+// died) ends the process at once, with one line on standard error and status 1.
 class X11Connection {
 public:
     // Null when the display cannot be opened. `displayName` null means $DISPLAY.
