@@ -20,8 +20,9 @@ void tell(const QString& text) {
 
 // A store file that is not a property list with a dictionary at the top would read as an empty
 // store, and QSettings would replace it at the next write. Moving it aside first keeps the
-// player's file byte for byte; an earlier copy is never overwritten.
-void setAside(const QString& path) {
+// player's file byte for byte; an earlier copy is never overwritten. Returns the name it was kept
+// under, or an empty string when it could not be moved.
+QString setAside(const QString& path) {
     const QString stamp = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
     const QString stem = path + QStringLiteral(".unreadable-") + stamp;
     for (int attempt = 1; attempt <= 1000; ++attempt) {
@@ -35,7 +36,7 @@ void setAside(const QString& path) {
                                 "property list holding a dictionary. The file was kept "
                                 "unchanged as \"%2\", and the settings start empty.")
                      .arg(path, aside));
-            return;
+            return aside;
         }
         break;
     }
@@ -43,7 +44,10 @@ void setAside(const QString& path) {
                         "list holding a dictionary, and it could not be set aside. The settings "
                         "start empty.")
              .arg(path));
+    return {};
 }
+
+const char* const kSetAsideAs = "tarnicSetAsideAs";
 
 } // namespace
 
@@ -62,12 +66,17 @@ std::unique_ptr<QSettings> openUserDefaults() {
     auto settings = std::make_unique<QSettings>(path, plistSettingsFormat());
     if (settings->status() == QSettings::FormatError) {
         settings.reset();
-        setAside(path);
+        const QString aside = setAside(path);
         settings = std::make_unique<QSettings>(path, plistSettingsFormat());
+        settings->setProperty(kSetAsideAs, aside);
     }
     // Every write goes to a temporary file that replaces the store only when complete.
     settings->setAtomicSyncRequired(true);
     return settings;
+}
+
+QString storeSetAsideAs(const QSettings& settings) {
+    return settings.property(kSetAsideAs).toString();
 }
 
 } // namespace tarnic
