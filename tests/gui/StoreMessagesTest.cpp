@@ -132,11 +132,21 @@ TEST_F(StoreMessages, AStoreSetAsideAtStartIsToldOnceWithItsNewName) {
     QDir().mkpath(storeFolder());
     writeFile(storePath(), "this is not a property list \x01\x02");
     launch();
-    QTRY_COMPARE_WITH_TIMEOUT(alerts().shown.size(), 1U, 5000);
     const QStringList aside = QDir(storeFolder()).entryList({"*.unreadable-*"}, QDir::Files);
     ASSERT_EQ(aside.size(), 1);
-    const Alert& notice = alerts().shown[0];
-    EXPECT_TRUE(notice.informativeText.contains(aside[0])) << notice.informativeText.toStdString();
+    const auto notices = [this, &aside] {
+        std::vector<Alert> found;
+        for (const Alert& alert : alerts().shown) {
+            if (alert.informativeText.contains(aside[0])) {
+                found.push_back(alert);
+            }
+        }
+        return found;
+    };
+    // The notice comes after the window's first paint.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !notices().empty(); }, 5000));
+    ASSERT_EQ(notices().size(), 1U);
+    const Alert notice = notices()[0];
     EXPECT_TRUE(notice.informativeText.contains(storeFolder()))
         << notice.informativeText.toStdString();
     EXPECT_EQ(notice.icon, QMessageBox::Warning);
