@@ -51,11 +51,13 @@ SmallDisk makeSmallDisk() {
         return failed("mount -t tmpfs -o size=2m");
     }
     disk.path = folder;
+    // The mount point itself is in the machine's /tmp. A copy of its name of its own: the handler
+    // runs after the static SmallDisk is gone.
+    static char mountPoint[sizeof folder];
+    std::memcpy(mountPoint, folder, sizeof folder);
     std::atexit([] {
-        // The mount point itself is in the machine's /tmp.
-        const std::string& path = smallDisk().path;
-        ::umount2(path.c_str(), MNT_DETACH);
-        ::rmdir(path.c_str());
+        ::umount2(mountPoint, MNT_DETACH);
+        ::rmdir(mountPoint);
     });
     return disk;
 }
