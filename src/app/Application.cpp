@@ -1,6 +1,7 @@
 #include "app/Application.h"
 
 #include "core/catalogue/Catalogue.h"
+#include "shell/StoreNotices.h"
 #include "shell/SiteAddress.h"
 #include "store/ProgramOptions.h"
 #include "store/UserDefaults.h"
@@ -48,9 +49,9 @@ void setApplicationIdentity() {
 Application::Options::Options() : siteUrl(siteBaseUrl()) {}
 
 Application::Application(Platform platform, Options options)
-    : options_(std::move(options)), storeReading_(readStore()), platform_(std::move(platform)),
-      store_(storeReading_.get()), programOptions_(openProgramOptions()),
-      controller_(*store_, *programOptions_),
+    : options_(std::move(options)), fatalAlerts_(options_.alerts), storeReading_(readStore()),
+      platform_(std::move(platform)), store_(FatalAlerts::take(storeReading_)),
+      programOptions_(openProgramOptions()), controller_(*store_, *programOptions_),
       remapperSession_(controller_.inventoryModels, controller_.inventoryOptions, platform_),
       delegate_(*platform_.accessibilityTrust, options_.siteUrl,
                 options_.alerts != nullptr ? *options_.alerts : messageBoxes_) {
@@ -73,9 +74,15 @@ void Application::start() {
                                                                options_.gameDetectionInterval);
     window_.show();
     controller_.viewDidAppear();
-    afterFirstPaint_ =
-        std::make_unique<AfterFirstPaint>(*controller_.tableView->viewport(), kIconAtTheLatest, [] {
+    AlertPresenter& alerts = options_.alerts != nullptr ? *options_.alerts : messageBoxes_;
+    afterFirstPaint_ = std::make_unique<AfterFirstPaint>(
+        *controller_.tableView->viewport(), kIconAtTheLatest,
+        [this, &alerts, aside = storeSetAsideAs(*store_)] {
             QApplication::setWindowIcon(QIcon::fromTheme(kDesktopId));
+            // Once, over the window: the player's list and bindings look lost until he reads this.
+            if (!aside.isEmpty()) {
+                alerts.show(storeSetAsideAlert(userDefaultsPath(), aside), &window_);
+            }
         });
     QTimer::singleShot(0, &delegate_, &AppDelegate::applicationDidFinishLaunching);
 }

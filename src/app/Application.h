@@ -7,6 +7,7 @@
 #include "gui/ViewController.h"
 #include "platform/timer/GameDetectionTimer.h"
 #include "shell/AppDelegate.h"
+#include "shell/FatalAlerts.h"
 #include "shell/MessageBoxAlertPresenter.h"
 
 #include <QSettings>
@@ -67,6 +68,8 @@ public:
 
 private:
     Options options_;
+    // First: from here on a fatal error is also shown in a message box.
+    FatalAlerts fatalAlerts_;
     // The store is read on a thread of its own while the window is built: reading and parsing the
     // whole list is the largest piece of start-up that needs no GUI. It is waited for before the
     // controller, the first to use it.

@@ -29,6 +29,14 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui_(new Ui::MainW
     clashes->setToolTip(tr("Clashes: two abilities of one unit on the same key. The New column "
                            "marks each of them."));
     ui_->statusbar->addWidget(clashes, 1);
+    // Shown only while a change could not be saved; the tooltip says where and why. It never
+    // widens the window.
+    auto* storeWarning = new QLabel(this);
+    storeWarning->setObjectName(QStringLiteral("storeWarningLbl"));
+    storeWarning->setTextFormat(Qt::PlainText);
+    storeWarning->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    storeWarning->hide();
+    ui_->statusbar->addWidget(storeWarning, 1);
     // Quitting is closing the main window.
     connect(ui_->actionQuit, &QAction::triggered, this, &QWidget::close);
     connect(ui_->actionContact, &QAction::triggered, this, [this] { showContactPanel(this); });
@@ -49,6 +57,7 @@ void MainWindow::connectController(ViewController& c) {
     c.isShiftBox = w.isShiftBox;
     c.delBTN = w.delBTN;
     c.clashLbl = findChild<QLabel*>(QStringLiteral("clashLbl"));
+    c.storeWarningLbl = findChild<QLabel*>(QStringLiteral("storeWarningLbl"));
     c.inventButtons = {w.invent1, w.invent2, w.invent3, w.invent4, w.invent5, w.invent6};
     c.inventStatusLbl = w.inventStatusLbl;
     c.onlyInGameBox = w.onlyInGameBox;

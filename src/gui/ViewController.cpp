@@ -12,10 +12,13 @@
 #include "core/import/CustomKeysImport.h"
 #include "files/RegularFileReader.h"
 #include "gui/AbilityTableView.h"
+#include "gui/ExportFile.h"
 #include "gui/GuiResources.h"
 #include "gui/Outlet.h"
-#include "shell/MessageBoxAlertPresenter.h"
 #include "gui/Pictures.h"
+#include "gui/PopUpTitles.h"
+#include "gui/StatusBarTexts.h"
+#include "shell/MessageBoxAlertPresenter.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -23,27 +26,10 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QPixmap>
-#include <QSaveFile>
 
 namespace tarnic {
 
 namespace {
-
-QString qs(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-// "Select the item with title T": the first item with exactly that title, or none.
-void selectItemWithTitle(QComboBox& popup, std::string_view title) {
-    popup.setCurrentIndex(popup.findText(qs(title)));
-}
-
-std::optional<std::string> selectedTitle(const QComboBox& popup) {
-    if (popup.currentIndex() < 0) {
-        return std::nullopt;
-    }
-    return popup.currentText().toStdString();
-}
 
 QPixmap pictureNamed(const std::string& name) {
     return picture(qs(name));
@@ -52,13 +38,6 @@ QPixmap pictureNamed(const std::string& name) {
 // The game's own file is about 60 kB; anything past this is not a hotkey file, and reading stops
 // there.
 constexpr qint64 kLargestHotkeyFile = 4 * 1024 * 1024;
-
-QString clashCountText(std::size_t count) {
-    if (count == 0) {
-        return QStringLiteral("No clashes");
-    }
-    return count == 1 ? QStringLiteral("1 clash") : QStringLiteral("%1 clashes").arg(count);
-}
 
 Alert importAlert(const QString& text, const QString& details, QMessageBox::Icon icon) {
     return {text, details, {QStringLiteral("OK")}, icon};
@@ -225,18 +204,31 @@ void ViewController::allQWER() {
 
 void ViewController::storeMainDic() {
     // An unchanged list is not written again: that would only cost flushes to disk at every start.
-    defaults_.setMainDicIfChanged(mainDic);
-    storedDic_ = mainDic;
+    handedDic_ = mainDic;
+    storeWritten(defaults_.setMainDicIfChanged(mainDic));
+}
+
+void ViewController::storeWritten(bool written) {
+    // A write that works takes along everything an earlier one could not write.
+    if (written) {
+        storedDic_ = handedDic_;
+    }
+    showStoreWarning(outlet(storeWarningLbl, "storeWarningLbl"), written, userDefaultsPath());
+    showModified();
+}
+
+void ViewController::showModified() {
+    // A key set by hand lives in memory only; the title says so until the list is stored.
+    if (QWidget* window = outlet(tableView, "tableView").window()) {
+        window->setWindowModified(mainDic != storedDic_);
+    }
 }
 
 void ViewController::listChanged() {
     const std::vector<Clash> clashes = findClashes(mainDic);
     tableModel_.setClashPartners(clashPartners(clashes, mainDic.size()));
     outlet(clashLbl, "clashLbl").setText(clashCountText(clashes.size()));
-    // A key set by hand lives in memory only; the title says so until the list is stored.
-    if (QWidget* window = outlet(tableView, "tableView").window()) {
-        window->setWindowModified(mainDic != storedDic_);
-    }
+    showModified();
 }
 
 // ---- Export ----
@@ -253,12 +245,9 @@ void ViewController::writeResult(const std::optional<QString>& path) {
         if (path->isEmpty()) {
             fatalError(kNilUnwrap, "the save dialog was accepted without a file");
         }
-        // A failed write leaves the old file as it was and is not reported.
-        QSaveFile file(*path);
-        if (file.open(QIODevice::WriteOnly) &&
-            file.write(result.data(), static_cast<qint64>(result.size())) ==
-                static_cast<qint64>(result.size())) {
-            file.commit();
+        // A failed write leaves the old file as it was, and says why.
+        if (const std::optional<QString> reason = writeExportFile(*path, result)) {
+            runAlert(exportFailedAlert(*path, *reason));
         }
     }
     emit exportFinished();
@@ -274,11 +263,14 @@ void ViewController::importCKeys() {
 
 void ViewController::readCustomKeys(const std::optional<QString>& path) {
     if (path && !path->isEmpty()) {
-        const Alert alert = importFrom(*path);
-        MessageBoxAlertPresenter messageBox;
-        (alerts_ != nullptr ? *alerts_ : messageBox).run(alert);
+        runAlert(importFrom(*path));
     }
     emit importFinished();
+}
+
+void ViewController::runAlert(const Alert& alert) {
+    MessageBoxAlertPresenter messageBox;
+    (alerts_ != nullptr ? *alerts_ : messageBox).run(alert);
 }
 
 Alert ViewController::importFrom(const QString& path) {
@@ -371,7 +363,7 @@ void ViewController::setInventory() {
     if (std::optional<InventoryModel> binding = bindingFrom(inventoryEditNow, title, shift)) {
         const auto slot = static_cast<int>(inventoryEditNow);
         inventoryModels[static_cast<std::size_t>(slot - 1)] = *binding;
-        defaults_.setInventoryModel(slot, *binding);
+        storeWritten(defaults_.setInventoryModel(slot, *binding));
         showSlotTitle(slot);
     }
 }
@@ -387,7 +379,7 @@ void ViewController::eraseKey() {
     if (inventoryEditNow >= 1 && inventoryEditNow <= 6) {
         const auto slot = static_cast<int>(inventoryEditNow);
         InventoryModel().swap(inventoryModels[static_cast<std::size_t>(slot - 1)]);
-        defaults_.removeInventoryModel(slot);
+        storeWritten(defaults_.removeInventoryModel(slot));
         showSlotTitle(slot);
     }
 }

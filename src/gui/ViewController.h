@@ -80,6 +80,8 @@ public:
     QPointer<QComboBox> keysPopup;
     // The status bar's count of clashes.
     QPointer<QLabel> clashLbl;
+    // The status bar's warning, shown while the store file lacks a change it was handed.
+    QPointer<QLabel> storeWarningLbl;
 
     // Runs once, after the window has connected the outlets: restores the stored bindings and
     // list, fills the pop-ups, reads the template and selects the first row.
@@ -148,11 +150,17 @@ private:
     // After every change of the working list: the clash marks and count, and the title's mark of
     // a list that differs from the stored one.
     void listChanged();
+    void showModified();
     void storeMainDic();
+    // After every write to the store: the warning, and what the store holds.
+    void storeWritten(bool written);
+    void runAlert(const Alert& alert);
 
     UserDefaults defaults_;
-    // What the store holds under "mainDic", as last written.
+    // What the store file holds under "mainDic", as last written, and the list last handed to the
+    // store (the same unless a write failed).
     std::vector<AbilityRecord> storedDic_;
+    std::vector<AbilityRecord> handedDic_;
     AlertPresenter* alerts_ = nullptr;
     ProgramOptions options_;
     AbilityTableModel tableModel_;

@@ -25,8 +25,8 @@ const QString kNotADictionary = QStringLiteral("it is not a property list holdin
 // A store file that is not a property list with a dictionary at the top would read as an empty
 // store, and QSettings would replace it at the next write. Moving it aside first keeps the
 // player's file byte for byte; an earlier copy is never overwritten. `reason` says what is wrong
-// with it. Whether it was moved.
-bool setAside(const QString& path, const QString& reason) {
+// with it. Returns the name it was kept under, or an empty string when it could not be moved.
+QString setAside(const QString& path, const QString& reason) {
     const QString stamp = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
     const QString stem = path + QStringLiteral(".unreadable-") + stamp;
     for (int attempt = 1; attempt <= 1000; ++attempt) {
@@ -39,15 +39,17 @@ bool setAside(const QString& path, const QString& reason) {
             tell(QStringLiteral("Tarnic Pro could not read its settings file \"%1\": %2. The file "
                                 "was kept unchanged as \"%3\", and the settings start empty.")
                      .arg(path, reason, aside));
-            return true;
+            return aside;
         }
         break;
     }
     tell(QStringLiteral("Tarnic Pro could not read its settings file \"%1\": %2, and it could not "
                         "be set aside. The settings start empty.")
              .arg(path, reason));
-    return false;
+    return {};
 }
+
+const char* const kSetAsideAs = "tarnicSetAsideAs";
 
 } // namespace
 
@@ -68,22 +70,33 @@ std::unique_ptr<QSettings> openUserDefaults() {
     // a socket, a device node and a folder alike. What cannot be moved is never opened: the
     // settings then live in memory only, and nothing is kept.
     const FileContents found = RegularFileReader().check(path);
-    if (found.status == FileContents::Status::NotRegular && !setAside(path, found.reason)) {
-        tell(QStringLiteral("Nothing Tarnic Pro changes is kept until \"%1\" is removed.")
-                 .arg(path));
-        return std::make_unique<QSettings>(QString(), plistSettingsFormat());
+    QString setAsideAs;
+    if (found.status == FileContents::Status::NotRegular) {
+        setAsideAs = setAside(path, found.reason);
+        if (setAsideAs.isEmpty()) {
+            tell(QStringLiteral("Nothing Tarnic Pro changes is kept until \"%1\" is removed.")
+                     .arg(path));
+            return std::make_unique<QSettings>(QString(), plistSettingsFormat());
+        }
     }
     // QSettings reads the file once, here; a file it cannot parse (an empty or unreadable one is
     // no such file: QSettings reads neither) leaves it with a format error, and nothing written.
     auto settings = std::make_unique<QSettings>(path, plistSettingsFormat());
     if (settings->status() == QSettings::FormatError) {
         settings.reset();
-        setAside(path, kNotADictionary);
+        setAsideAs = setAside(path, kNotADictionary);
         settings = std::make_unique<QSettings>(path, plistSettingsFormat());
+    }
+    if (!setAsideAs.isEmpty()) {
+        settings->setProperty(kSetAsideAs, setAsideAs);
     }
     // Every write goes to a temporary file that replaces the store only when complete.
     settings->setAtomicSyncRequired(true);
     return settings;
+}
+
+QString storeSetAsideAs(const QSettings& settings) {
+    return settings.property(kSetAsideAs).toString();
 }
 
 } // namespace tarnic

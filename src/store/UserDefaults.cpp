@@ -1,6 +1,7 @@
 #include "store/UserDefaults.h"
 
 #include "core/fatal/Fatal.h"
+#include "store/SettingsWrite.h"
 #include "store/StoredTypes.h"
 
 #include <string>
@@ -47,15 +48,16 @@ bool UserDefaults::hasMainDic() const {
     return settings_.contains(kMainDic);
 }
 
-void UserDefaults::setMainDic(const std::vector<AbilityRecord>& list) {
+bool UserDefaults::setMainDic(const std::vector<AbilityRecord>& list) {
     settings_.setValue(kMainDic, abilityListToStored(list));
-    settings_.sync();
+    return writeSettings(settings_);
 }
 
-void UserDefaults::setMainDicIfChanged(const std::vector<AbilityRecord>& list) {
-    if (!isStoredAbilityList(settings_.value(kMainDic), list)) {
-        setMainDic(list);
+bool UserDefaults::setMainDicIfChanged(const std::vector<AbilityRecord>& list) {
+    if (settingsWritten(settings_) && isStoredAbilityList(settings_.value(kMainDic), list)) {
+        return true;
     }
+    return setMainDic(list);
 }
 
 std::optional<InventoryModel> UserDefaults::inventoryModel(int slot) const {
@@ -71,14 +73,18 @@ std::optional<InventoryModel> UserDefaults::inventoryModel(int slot) const {
     return std::get<InventoryModel>(std::move(read));
 }
 
-void UserDefaults::setInventoryModel(int slot, const InventoryModel& model) {
+bool UserDefaults::setInventoryModel(int slot, const InventoryModel& model) {
     settings_.setValue(inventoryModelKey(slot), inventoryModelToStored(model));
-    settings_.sync();
+    return writeSettings(settings_);
 }
 
-void UserDefaults::removeInventoryModel(int slot) {
+bool UserDefaults::removeInventoryModel(int slot) {
+    // Removing a key that is not there writes nothing.
+    if (!settings_.contains(inventoryModelKey(slot))) {
+        return settingsWritten(settings_);
+    }
     settings_.remove(inventoryModelKey(slot));
-    settings_.sync();
+    return writeSettings(settings_);
 }
 
 } // namespace tarnic

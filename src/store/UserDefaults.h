@@ -30,9 +30,14 @@ QString userDefaultsPath();
 // only and keeps nothing.
 std::unique_ptr<QSettings> openUserDefaults();
 
+// The path an unreadable store file was set aside under when openUserDefaults opened `settings`;
+// empty when nothing was set aside.
+QString storeSetAsideAs(const QSettings& settings);
+
 // Typed access to the keys the program stores: "mainDic" and "inventoryModel1".."6".
 // A value of the wrong type is a fatal error naming the key, the type expected and the type found.
-// Every change is written to the file at once.
+// Every change is written to the file at once; each setter says whether the file now holds it
+// (false when the folder cannot be written or the disk is full; see writeSettings).
 class UserDefaults {
 public:
     explicit UserDefaults(QSettings& settings);
@@ -40,16 +45,17 @@ public:
     std::optional<std::vector<AbilityRecord>> mainDic() const;
     // Whether the store holds a list at all (of whatever type).
     bool hasMainDic() const;
-    void setMainDic(const std::vector<AbilityRecord>& list);
+    bool setMainDic(const std::vector<AbilityRecord>& list);
     // setMainDic, unless the store holds exactly this list already: the program stores the list
     // it shows at every start, most often the very list it has just read, and a rewrite that
-    // changes nothing still costs two flushes to disk.
-    void setMainDicIfChanged(const std::vector<AbilityRecord>& list);
+    // changes nothing still costs two flushes to disk. A list the file may lack (an earlier write
+    // failed) is written.
+    bool setMainDicIfChanged(const std::vector<AbilityRecord>& list);
 
     // slot is 1 to 6.
     std::optional<InventoryModel> inventoryModel(int slot) const;
-    void setInventoryModel(int slot, const InventoryModel& model);
-    void removeInventoryModel(int slot);
+    bool setInventoryModel(int slot, const InventoryModel& model);
+    bool removeInventoryModel(int slot);
 
 private:
     QSettings& settings_;

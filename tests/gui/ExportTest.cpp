@@ -1,5 +1,7 @@
 #include "EditorFixture.h"
 
+#include "support/PlainUserThread.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -7,6 +9,8 @@
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTest>
+
+#include <sys/stat.h>
 
 static void unregisterTemplate() {
     Q_CLEANUP_RESOURCE(defaultkeys);
@@ -17,16 +21,6 @@ static void registerTemplate() {
 
 namespace tarnic::testing {
 namespace {
-
-QSet<QWidget*> visibleWindows() {
-    QSet<QWidget*> shown;
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (widget->isVisible()) {
-            shown.insert(widget);
-        }
-    }
-    return shown;
-}
 
 class Export : public EditorFixture {
 protected:
@@ -44,6 +38,21 @@ protected:
     }
     // What the untouched list exports to.
     static QByteArray expected() { return golden("export-untouched.txt"); }
+    // One alert came, naming the file, its folder and the system's reason.
+    void expectFailureAlert(const QString& name, const QString& folder, const QString& reason) {
+        ASSERT_EQ(alerts().shown.size(), 1U);
+        const Alert& alert = alerts().shown[0];
+        EXPECT_EQ(alert.text, QStringLiteral("\u201C%1\u201D could not be saved.").arg(name));
+        EXPECT_TRUE(alert.informativeText.contains(folder)) << alert.informativeText.toStdString();
+        EXPECT_TRUE(alert.informativeText.contains(reason, Qt::CaseInsensitive))
+            << alert.informativeText.toStdString();
+        EXPECT_EQ(alert.icon, QMessageBox::Warning);
+        EXPECT_EQ(alert.buttons, QStringList{"OK"});
+    }
+    // An ordinary user must reach the folders the test makes inside its own.
+    static bool openToEveryone(const QString& path) {
+        return ::chmod(QFile::encodeName(path).constData(), 0755) == 0;
+    }
 
     QString target_;
 };
@@ -109,14 +118,13 @@ TEST_F(Export, ExportChangesNeitherTheListNorTheStore) {
     EXPECT_EQ(bytesOf(storePath()), store);
 }
 
-TEST_F(Export, FailedWriteUnderARegularFileChangesNothingAndShowsNothing) {
+TEST_F(Export, FailedWriteUnderARegularFileChangesNothingAndSaysWhy) {
     const QString blocker = tempPath("not-a-folder");
     writeFile(blocker, "a plain file\n");
-    const auto windows = visibleWindows();
     exportAnswering(blocker + "/CustomKeys.txt");
     EXPECT_EQ(bytesOf(blocker), "a plain file\n");
-    EXPECT_EQ(visibleWindows(), windows);
     EXPECT_EQ(QByteArray::fromStdString(vc().result), expected());
+    expectFailureAlert("CustomKeys.txt", blocker, "Not a directory");
 }
 
 TEST_F(Export, FailedWriteOverAFolderLeavesTheFolderAndItsFileIntact) {
@@ -128,6 +136,61 @@ TEST_F(Export, FailedWriteOverAFolderLeavesTheFolderAndItsFileIntact) {
     EXPECT_EQ(bytesOf(inside), "kept\n");
     EXPECT_EQ(QDir(target_).entryList(QDir::Files | QDir::Hidden), QStringList{"keep.txt"});
     EXPECT_EQ(QDir(dir_.path()).entryList(QDir::Files | QDir::Hidden), QStringList{});
+    ASSERT_EQ(alerts().shown.size(), 1U);
+    EXPECT_TRUE(alerts().shown[0].text.contains("CustomKeys.txt"));
+}
+
+TEST_F(Export, IntoAReadOnlyFolderSaysSoAndWritesNothing) {
+    const QString folder = tempPath("read-only");
+    ASSERT_TRUE(QDir().mkpath(folder));
+    ASSERT_TRUE(openToEveryone(dir_.path()));
+    ASSERT_EQ(::chmod(QFile::encodeName(folder).constData(), 0555), 0);
+    {
+        const PlainUserThread player;
+        ASSERT_TRUE(player.isValid());
+        exportAnswering(folder + "/CustomKeys.txt");
+    }
+    EXPECT_EQ(QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{});
+    expectFailureAlert("CustomKeys.txt", folder, "Permission denied");
+}
+
+TEST_F(Export, OverAReadOnlyFileAfterReplaceSaysSoAndKeepsTheFile) {
+    const QString folder = tempPath("writable");
+    ASSERT_TRUE(QDir().mkpath(folder));
+    ASSERT_TRUE(openToEveryone(dir_.path()));
+    ASSERT_EQ(::chmod(QFile::encodeName(folder).constData(), 0777), 0);
+    const QString old = folder + "/CustomKeys.txt";
+    writeFile(old, "my old keys\r\n");
+    ASSERT_EQ(::chmod(QFile::encodeName(old).constData(), 0444), 0);
+    {
+        const PlainUserThread player;
+        ASSERT_TRUE(player.isValid());
+        exportAnswering(old);
+    }
+    EXPECT_EQ(bytesOf(old), "my old keys\r\n");
+    EXPECT_EQ(QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{"CustomKeys.txt"});
+    expectFailureAlert("CustomKeys.txt", folder, "not writable");
+}
+
+TEST_F(Export, IntoAFolderDeletedWhileTheDialogWasOpenSaysSo) {
+    const QString folder = tempPath("gone");
+    ASSERT_TRUE(QDir().mkpath(folder));
+    QSignalSpy finished(&vc(), &ViewController::exportFinished);
+    vc().fileDialog().setNextAnswer(folder + "/CustomKeys.txt");
+    click(*ui().exportButton);
+    // The answer is on its way; the folder goes before it arrives.
+    ASSERT_TRUE(finished.isEmpty());
+    ASSERT_TRUE(QDir(folder).removeRecursively());
+    ASSERT_TRUE(finished.wait(5000));
+    EXPECT_FALSE(QFileInfo::exists(folder));
+    expectFailureAlert("CustomKeys.txt", folder, "No such file or directory");
+}
+
+TEST_F(Export, ASuccessfulExportShowsNothing) {
+    exportAnswering(target_);
+    EXPECT_TRUE(alerts().shown.empty());
 }
 
 TEST_F(Export, MissingTemplateWritesAnEmptyFile) {

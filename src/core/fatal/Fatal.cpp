@@ -1,18 +1,36 @@
 #include "core/fatal/Fatal.h"
 
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 
 namespace tarnic {
 
+namespace {
+
+std::atomic<FatalNotice> currentNotice{nullptr};
+std::atomic_flag noticeGiven = ATOMIC_FLAG_INIT;
+
+} // namespace
+
 void fatalError(std::string_view message, std::string_view detail) {
-    std::fprintf(stderr, "Fatal error: %.*s", static_cast<int>(message.size()), message.data());
+    std::string line = "Fatal error: ";
+    line.append(message);
     if (!detail.empty()) {
-        std::fprintf(stderr, ": %.*s", static_cast<int>(detail.size()), detail.data());
+        line.append(": ").append(detail);
     }
-    std::fputc('\n', stderr);
+    // Standard error first: whatever becomes of the notice, the reason is on record.
+    std::fprintf(stderr, "%s\n", line.c_str());
     std::fflush(stderr);
+    const FatalNotice notice = currentNotice.load();
+    if (notice != nullptr && !noticeGiven.test_and_set()) {
+        notice(line);
+    }
     std::abort();
+}
+
+void setFatalNotice(FatalNotice notice) {
+    currentNotice.store(notice);
 }
 
 } // namespace tarnic
