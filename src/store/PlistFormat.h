@@ -17,7 +17,8 @@ QByteArray settingsToPlist(const QSettings::SettingsMap& map);
 
 // The settings map that a property list (XML or binary) holds; nullopt when the bytes are not a
 // property list, its top level is not a dictionary, it nests deeper than any store of this program
-// (16 levels of arrays and dictionaries), or a dictionary key in it cannot be read (ReadableKeys.h).
+// (16 levels of arrays and dictionaries), or a dictionary key in it cannot be read
+// (ReadableKeys.h).
 std::optional<QSettings::SettingsMap> settingsFromPlist(const QByteArray& bytes);
 
 } // namespace tarnic
