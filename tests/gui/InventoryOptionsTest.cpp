@@ -56,7 +56,7 @@ TEST_F(InventoryOptionsPanel, SlotButtonsShowTheRestoredBindingsAtStart) {
     launch();
     EXPECT_EQ(slotTitles(),
               QStringList({"Slot 1  none", "Slot 2  1", "Slot 3  none", "Slot 4  Shift+Z",
-                           "Slot 5  Shift+(no key)", "Slot 6  (no key)"}));
+                           "Slot 5  (damaged)", "Slot 6  (no key)"}));
 }
 
 TEST_F(InventoryOptionsPanel, ABindingShowsOnItsButtonAtOnce) {
