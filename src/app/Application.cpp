@@ -51,13 +51,16 @@ Application::Options::Options() : siteUrl(siteBaseUrl()) {}
 Application::Application(Platform platform, Options options)
     : options_(std::move(options)), fatalAlerts_(options_.alerts), storeReading_(readStore()),
       platform_(std::move(platform)), store_(FatalAlerts::take(storeReading_)),
-      programOptions_(openProgramOptions()), controller_(*store_, *programOptions_),
-      remapperSession_(controller_.inventoryModels, controller_.inventoryOptions, platform_),
+      programOptions_(openProgramOptions()),
+      controller_(*store_, *programOptions_, inventoryBindings_), remapperSession_(platform_),
       delegate_(*platform_.accessibilityTrust, options_.siteUrl,
                 options_.alerts != nullptr ? *options_.alerts : messageBoxes_) {
     QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &delegate_,
                      &AppDelegate::applicationWillTerminate);
     window_.connectController(controller_);
+    QObject::connect(
+        &controller_, &ViewController::bindingsChanged, &controller_,
+        [this](const InventoryBindings& bindings) { remapperSession_.setBindings(bindings); });
     // The import reports through the same seam as the version gate.
     controller_.setAlerts(options_.alerts != nullptr ? *options_.alerts : messageBoxes_);
 }

@@ -60,6 +60,8 @@ public:
     QSettings& store() { return *store_; }
     Platform& platform() { return platform_; }
     ViewController& controller() { return controller_; }
+    // The inventory keys as the window shows them; the remapper session has a copy.
+    const InventoryBindings& inventoryBindings() const { return inventoryBindings_; }
     RemapperSession& remapperSession() { return remapperSession_; }
     // Null until start().
     GameDetectionTimer* gameDetectionTimer() { return gameDetectionTimer_.get(); }
@@ -78,9 +80,10 @@ private:
     MainWindow window_;
     std::unique_ptr<QSettings> store_;
     std::unique_ptr<QSettings> programOptions_;
+    // The six slot bindings and their options: the window edits them, and hands the remapper
+    // session a copy at every change.
+    InventoryBindings inventoryBindings_;
     ViewController controller_;
-    // After the controller: it reads the controller's six bindings and the options on every key
-    // press.
     RemapperSession remapperSession_;
     std::unique_ptr<GameDetectionTimer> gameDetectionTimer_;
     std::unique_ptr<AfterFirstPaint> afterFirstPaint_;

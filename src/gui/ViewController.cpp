@@ -45,10 +45,11 @@ Alert importAlert(const QString& text, const QString& details, QMessageBox::Icon
 
 } // namespace
 
-ViewController::ViewController(QSettings& settings, QSettings& options, QObject* parent)
+ViewController::ViewController(QSettings& settings, QSettings& options, InventoryBindings& bindings,
+                               QObject* parent)
     : QObject(parent), mainDic(all_data()), keyboardKeys(tarnic::keyboardKeys),
-      keyboardKeysNum(tarnic::keyboardKeysNum), defaults_(settings), options_(options),
-      tableModel_(mainDic) {
+      keyboardKeysNum(tarnic::keyboardKeysNum), defaults_(settings), bindings_(bindings),
+      options_(options), tableModel_(mainDic) {
     initGuiResources();
 }
 
@@ -56,8 +57,8 @@ ViewController::~ViewController() = default;
 
 void ViewController::viewDidLoad() {
     for (int n = 1; n <= 6; ++n) {
-        if (std::optional<InventoryModel> stored = defaults_.inventoryModel(n)) {
-            inventoryModels[static_cast<std::size_t>(n - 1)] = std::move(*stored);
+        if (std::optional<SlotBinding> stored = defaults_.inventoryModel(n)) {
+            bindings_.of(n) = *stored;
         }
     }
 
@@ -110,9 +111,10 @@ void ViewController::viewDidLoad() {
     for (int n = 1; n <= 6; ++n) {
         showSlotTitle(n);
     }
-    inventoryOptions = options_.inventoryOptions();
-    outlet(onlyInGameBox, "onlyInGameBox").setChecked(inventoryOptions.onlyWhileGameInFront);
-    outlet(pauseInChatBox, "pauseInChatBox").setChecked(inventoryOptions.pauseWhileTypingInChat);
+    bindings_.options = options_.inventoryOptions();
+    outlet(onlyInGameBox, "onlyInGameBox").setChecked(bindings_.options.onlyWhileGameInFront);
+    outlet(pauseInChatBox, "pauseInChatBox").setChecked(bindings_.options.pauseWhileTypingInChat);
+    emit bindingsChanged(bindings_);
 }
 
 void ViewController::showInventoryStatus(const AccessibilityTrust& trust) {
@@ -311,12 +313,12 @@ Alert ViewController::importFrom(const QString& path) {
 void ViewController::showSlotTitle(int slot) {
     const auto index = static_cast<std::size_t>(slot - 1);
     outlet(inventButtons.at(index), "invent" + std::to_string(slot))
-        .setText(qs(slotTitle(slot, inventoryModels.at(index))));
+        .setText(qs(slotTitle(slot, bindings_.of(slot))));
 }
 
 void ViewController::invent(std::int64_t slot) {
     inventoryEditNow = slot;
-    display(inventoryModels[static_cast<std::size_t>(slot - 1)]);
+    display(bindings_.of(static_cast<int>(slot)));
 }
 
 void ViewController::invent1() {
@@ -338,16 +340,16 @@ void ViewController::invent6() {
     invent(6);
 }
 
-void ViewController::display(const InventoryModel& model) {
+void ViewController::display(const std::optional<SlotBinding>& binding) {
     outlet(delBTN, "delBTN").setVisible(true);
     outlet(inventPopup, "inventPopup").setVisible(true);
     outlet(isShiftBox, "isShiftBox").setVisible(true);
     outlet(isShiftBox, "isShiftBox").setChecked(false);
     selectItemWithTitle(outlet(inventPopup, "inventPopup"), select);
-    if (model.empty()) {
+    if (!binding) {
         return;
     }
-    const InventoryDisplay shown = displayOf(model);
+    const InventoryDisplay shown = displayOf(binding);
     selectItemWithTitle(outlet(inventPopup, "inventPopup"), shown.title);
     outlet(isShiftBox, "isShiftBox").setChecked(shown.shift);
 }
@@ -360,9 +362,10 @@ void ViewController::setInventory() {
     const std::string title =
         selectedTitle(outlet(inventPopup, "inventPopup")).value_or(std::string());
     const bool shift = outlet(isShiftBox, "isShiftBox").checkState() != Qt::Unchecked;
-    if (std::optional<InventoryModel> binding = bindingFrom(inventoryEditNow, title, shift)) {
+    if (std::optional<SlotBinding> binding = bindingFrom(inventoryEditNow, title, shift)) {
         const auto slot = static_cast<int>(inventoryEditNow);
-        inventoryModels[static_cast<std::size_t>(slot - 1)] = *binding;
+        bindings_.of(slot) = *binding;
+        emit bindingsChanged(bindings_);
         storeWritten(defaults_.setInventoryModel(slot, *binding));
         showSlotTitle(slot);
     }
@@ -378,20 +381,23 @@ void ViewController::eraseKey() {
     selectItemWithTitle(outlet(inventPopup, "inventPopup"), select);
     if (inventoryEditNow >= 1 && inventoryEditNow <= 6) {
         const auto slot = static_cast<int>(inventoryEditNow);
-        InventoryModel().swap(inventoryModels[static_cast<std::size_t>(slot - 1)]);
+        bindings_.of(slot).reset();
+        emit bindingsChanged(bindings_);
         storeWritten(defaults_.removeInventoryModel(slot));
         showSlotTitle(slot);
     }
 }
 
 void ViewController::setOnlyWhileGameInFront() {
-    inventoryOptions.onlyWhileGameInFront = outlet(onlyInGameBox, "onlyInGameBox").isChecked();
-    options_.setOnlyWhileGameInFront(inventoryOptions.onlyWhileGameInFront);
+    bindings_.options.onlyWhileGameInFront = outlet(onlyInGameBox, "onlyInGameBox").isChecked();
+    emit bindingsChanged(bindings_);
+    options_.setOnlyWhileGameInFront(bindings_.options.onlyWhileGameInFront);
 }
 
 void ViewController::setPauseWhileTypingInChat() {
-    inventoryOptions.pauseWhileTypingInChat = outlet(pauseInChatBox, "pauseInChatBox").isChecked();
-    options_.setPauseWhileTypingInChat(inventoryOptions.pauseWhileTypingInChat);
+    bindings_.options.pauseWhileTypingInChat = outlet(pauseInChatBox, "pauseInChatBox").isChecked();
+    emit bindingsChanged(bindings_);
+    options_.setPauseWhileTypingInChat(bindings_.options.pauseWhileTypingInChat);
 }
 
 } // namespace tarnic

@@ -2,7 +2,7 @@
 
 #include "core/platform/AccessibilityTrust.h"
 #include "core/record/AbilityRecord.h"
-#include "core/remapper/InventoryRemapper.h"
+#include "core/bindings/InventoryBindings.h"
 #include "core/vocabulary/KeyCodes.h"
 #include "gui/AbilityTableModel.h"
 #include "gui/FileDialog.h"
@@ -37,8 +37,10 @@ class ViewController : public QObject {
     Q_OBJECT
 public:
     // `settings` is the user defaults store and `options` the program's options file (see
-    // ProgramOptions); both must outlive the controller.
-    ViewController(QSettings& settings, QSettings& options, QObject* parent = nullptr);
+    // ProgramOptions); `bindings` are the inventory keys the controller edits. All must outlive
+    // the controller.
+    ViewController(QSettings& settings, QSettings& options, InventoryBindings& bindings,
+                   QObject* parent = nullptr);
     ~ViewController() override;
 
     // The whole text of the ":/defaultkeys" template, read when the view loads.
@@ -47,12 +49,6 @@ public:
     std::string result;
     // The slot (1 to 6) the inventory controls edit; 0 until a slot is chosen.
     std::int64_t inventoryEditNow = 0;
-    // inventoryModel1 .. inventoryModel6: the binding of each slot, empty while unbound. The
-    // remapper reads this array on every key press, so a new binding is live at once.
-    std::array<InventoryModel, 6> inventoryModels;
-    // The inventory keys' options, off until the view loads what was stored. The remapper reads
-    // them on every key press, so a change is live at once.
-    InventoryOptions inventoryOptions;
 
     // Outlets.
     QPointer<QPushButton> delBTN;
@@ -108,7 +104,7 @@ public:
     void setInventoryKeyBox();
     void setInventoryKey();
     void invent1();
-    void display(const InventoryModel& model);
+    void display(const std::optional<SlotBinding>& binding);
     void invent2();
     void invent3();
     void invent4();
@@ -130,6 +126,9 @@ signals:
     void exportFinished();
     // The open dialog of an import was answered and, if accepted, its message dismissed.
     void importFinished();
+    // The bindings or their options changed (or were restored from the store): from the next
+    // key press on, these are the ones that tap.
+    void bindingsChanged(const InventoryBindings& bindings);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -157,6 +156,7 @@ private:
     void runAlert(const Alert& alert);
 
     UserDefaults defaults_;
+    InventoryBindings& bindings_;
     // What the store file holds under "mainDic", as last written, and the list last handed to the
     // store (the same unless a write failed).
     std::vector<AbilityRecord> storedDic_;

@@ -4,7 +4,7 @@
 #include "WindowControls.h"
 #include "app/Application.h"
 #include "core/record/AbilityRecord.h"
-#include "core/remapper/InventoryRemapper.h"
+#include "core/bindings/SlotBinding.h"
 #include "gui/MainWindow.h"
 #include "gui/ViewController.h"
 #include "platform/fake/FakePlatform.h"
@@ -48,13 +48,13 @@ protected:
 
     // What the store file holds now, read through a fresh store object.
     std::optional<std::vector<AbilityRecord>> storedMainDic() const;
-    std::optional<InventoryModel> storedInventoryModel(int slot) const;
+    std::optional<SlotBinding> storedInventoryModel(int slot) const;
     bool storeHasKey(const QString& key) const;
     // Every key the store file holds now.
     QStringList storeKeys() const;
     // Writes values into the store before a start.
     void storeMainDic(const std::vector<AbilityRecord>& list) const;
-    void storeInventoryModel(int slot, const InventoryModel& model) const;
+    void storeInventoryModel(int slot, const SlotBinding& binding) const;
     void storeRaw(const QString& key, const QVariant& value) const;
 
     // Drives the window as a player would.

@@ -27,13 +27,12 @@ class EditorState : public EditorFixture {};
 TEST_F(EditorState, InitialValuesBeforeTheViewLoads) {
     const std::unique_ptr<QSettings> settings = openUserDefaults();
     const std::unique_ptr<QSettings> options = openProgramOptions();
-    ViewController controller(*settings, *options);
+    InventoryBindings bindings;
+    ViewController controller(*settings, *options, bindings);
     EXPECT_EQ(controller.def_keys_bundle, "");
     EXPECT_EQ(controller.result, "");
     EXPECT_EQ(controller.inventoryEditNow, 0);
-    for (const InventoryModel& model : controller.inventoryModels) {
-        EXPECT_TRUE(model.empty());
-    }
+    EXPECT_EQ(bindings, InventoryBindings{});
     EXPECT_EQ(controller.mainDic, all_data());
     EXPECT_EQ(&controller.keyboardKeys, &keyboardKeys);
     EXPECT_EQ(&controller.keyboardKeysNum, &keyboardKeysNum);
@@ -51,7 +50,7 @@ TEST_F(EditorState, FirstRunShowsAndStoresTheCatalogueWithEverySlotEmpty) {
     }
     EXPECT_EQ(storedMainDic(), catalogue);
     for (int n = 1; n <= 6; ++n) {
-        EXPECT_TRUE(vc().inventoryModels[static_cast<std::size_t>(n - 1)].empty());
+        EXPECT_FALSE(app().inventoryBindings().of(n).has_value());
         EXPECT_FALSE(storeHasKey(QStringLiteral("inventoryModel%1").arg(n)));
     }
 }
@@ -94,10 +93,10 @@ TEST_F(EditorState, OnlyTheStoredSlotsAreRestored) {
     storeInventoryModel(2, {2, 0, 12});
     storeInventoryModel(5, {5, 56, 18});
     launch();
-    EXPECT_EQ(vc().inventoryModels[1], (InventoryModel{2, 0, 12}));
-    EXPECT_EQ(vc().inventoryModels[4], (InventoryModel{5, 56, 18}));
-    for (std::size_t i : {0u, 2u, 3u, 5u}) {
-        EXPECT_TRUE(vc().inventoryModels[i].empty());
+    EXPECT_EQ(app().inventoryBindings().of(2), (SlotBinding{2, 0, 12}));
+    EXPECT_EQ(app().inventoryBindings().of(5), (SlotBinding{5, 56, 18}));
+    for (const int slot : {1, 3, 4, 6}) {
+        EXPECT_FALSE(app().inventoryBindings().of(slot).has_value());
     }
 }
 
@@ -214,7 +213,8 @@ TEST_F(EditorStateDeathTest, BindingOfTheWrongTypeEndsTheProgram) {
 TEST_F(EditorStateDeathTest, UnconnectedOutletEndsTheProgram) {
     const std::unique_ptr<QSettings> settings = openUserDefaults();
     const std::unique_ptr<QSettings> options = openProgramOptions();
-    ViewController controller(*settings, *options);
+    InventoryBindings bindings;
+    ViewController controller(*settings, *options, bindings);
     EXPECT_DEATH(controller.viewDidLoad(),
                  "Unexpectedly found nil while implicitly unwrapping an Optional value: keysPopup");
 }

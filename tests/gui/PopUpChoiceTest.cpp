@@ -253,7 +253,7 @@ TEST_F(PopUpChoice, WheelOverTheClosedInventoryPopUpBindsNothing) {
     QApplication::processEvents();
 
     EXPECT_EQ(ui().inventPopup->currentText(), "Select");
-    EXPECT_TRUE(vc().inventoryModels[0].empty());
+    EXPECT_FALSE(app().inventoryBindings().of(1).has_value());
     EXPECT_FALSE(storeHasKey(QStringLiteral("inventoryModel1")));
     EXPECT_EQ(bytesOf(storePath()), store);
 }
@@ -261,7 +261,7 @@ TEST_F(PopUpChoice, WheelOverTheClosedInventoryPopUpBindsNothing) {
 TEST_F(PopUpChoice, KeysOnTheClosedInventoryPopUpBindNothing) {
     click(slotButton(2));
     choose(*ui().inventPopup, "E");
-    ASSERT_EQ(storedInventoryModel(2), (InventoryModel{2, 0, 14}));
+    ASSERT_EQ(storedInventoryModel(2), (SlotBinding{2, 0, 14}));
     const QByteArray store = bytesOf(storePath());
     clickOpenThenEscape(*ui().inventPopup);
 
@@ -272,7 +272,7 @@ TEST_F(PopUpChoice, KeysOnTheClosedInventoryPopUpBindNothing) {
     QApplication::processEvents();
 
     EXPECT_EQ(ui().inventPopup->currentText(), "E");
-    EXPECT_EQ(vc().inventoryModels[1], (InventoryModel{2, 0, 14}));
+    EXPECT_EQ(app().inventoryBindings().of(2), (SlotBinding{2, 0, 14}));
     EXPECT_EQ(bytesOf(storePath()), store);
     for (int other : {1, 3, 4, 5, 6}) {
         EXPECT_FALSE(storeHasKey(QStringLiteral("inventoryModel%1").arg(other)));
@@ -296,10 +296,10 @@ TEST_F(PopUpChoice, AChoiceFromTheOpenInventoryListBindsOnceAndGivesTheFocusBack
     waitForListClosed(*ui().inventPopup);
 
     EXPECT_EQ(ui().inventPopup->currentText(), "3");
-    EXPECT_EQ(vc().inventoryModels[0], (InventoryModel{1, 0, 20}));
-    EXPECT_EQ(storedInventoryModel(1), (InventoryModel{1, 0, 20}));
+    EXPECT_EQ(app().inventoryBindings().of(1), (SlotBinding{1, 0, 20}));
+    EXPECT_EQ(storedInventoryModel(1), (SlotBinding{1, 0, 20}));
     for (int other : {2, 3, 4, 5, 6}) {
-        EXPECT_TRUE(vc().inventoryModels[static_cast<std::size_t>(other - 1)].empty());
+        EXPECT_FALSE(app().inventoryBindings().of(other).has_value());
         EXPECT_FALSE(storeHasKey(QStringLiteral("inventoryModel%1").arg(other)));
     }
     EXPECT_EQ(window().focusWidget(), ui().tableView);

@@ -98,7 +98,7 @@ TEST_F(StoreMessages, ABindingWrittenLaterTakesTheUnwrittenListAlong) {
     // The store writes everything it holds at its next write.
     click(*ui().invent2);
     choose(*ui().inventPopup, "Q");
-    EXPECT_EQ(storedInventoryModel(2), (InventoryModel{2, 0, 12}));
+    EXPECT_EQ(storedInventoryModel(2), (SlotBinding{2, 0, 12}));
     EXPECT_EQ(storedMainDic(), laidOut());
     EXPECT_FALSE(marked());
     EXPECT_FALSE(warned());

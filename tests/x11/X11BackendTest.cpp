@@ -130,10 +130,11 @@ TEST_F(X11BackendTest, PostedKeypadTapsAreNotObserved) {
     // makes it write at once, as the game would.
     LineProcess log;
     startKeyLog(log, "keylog");
-    InventoryRemapper::Models models;
-    models[0] = {1, 0, 12};
+    InventoryBindings bindings;
+    bindings.of(1) = SlotBinding{1, 0, 12};
     CountingPoster poster(*platform->keyPoster);
-    InventoryRemapper remapper(models, poster);
+    InventoryRemapper remapper(poster);
+    remapper.setBindings(bindings);
     std::vector<int> downs;
     std::vector<int> flags;
     platform->keyObserver->addKeyDownMonitor([&](int code) {

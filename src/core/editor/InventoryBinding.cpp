@@ -5,21 +5,21 @@
 
 namespace tarnic {
 
-InventoryDisplay displayOf(const InventoryModel& model) {
+InventoryDisplay displayOf(const std::optional<SlotBinding>& binding) {
     InventoryDisplay shown{select, false};
-    if (model.empty()) {
+    if (!binding) {
         return shown;
     }
-    if (model.size() < 3) {
+    if (binding->isCutShort()) {
         fatalError(kIndexOutOfRange,
-                   "inventory binding has " + std::to_string(model.size()) + " elements, needs 3");
+                   "inventory binding has " + std::to_string(binding->held) + " elements, needs 3");
     }
     for (const auto& [code, label] : key_codes()) {
-        if (code == model[2]) {
+        if (code == binding->key) {
             shown.title = label;
         }
     }
-    shown.shift = model[1] != kNoModifier;
+    shown.shift = binding->modifier != kNoModifier;
     return shown;
 }
 
@@ -33,14 +33,13 @@ std::int64_t triggerCodeOf(std::string_view title) {
     return code;
 }
 
-std::optional<InventoryModel> bindingFrom(std::int64_t editing, std::string_view title,
-                                          bool shift) {
+std::optional<SlotBinding> bindingFrom(std::int64_t editing, std::string_view title, bool shift) {
     const std::int64_t key = triggerCodeOf(title);
     const std::int64_t modifier = shift ? kShiftModifier : kNoModifier;
     if (editing < 1 || editing > 6) {
         return std::nullopt;
     }
-    return InventoryModel{editing, modifier, key};
+    return SlotBinding{editing, modifier, key};
 }
 
 namespace {
@@ -52,25 +51,26 @@ bool isKeyCode(std::int64_t code) {
     return code >= 0 && code <= kLargestKeyCode;
 }
 
-// Whether a whole model can never tap: a slot the game does not have (inventoryPress posts
+// Whether a whole binding can never tap: a slot the game does not have (inventoryPress posts
 // nothing for it), or a trigger or modifier code that no key press can ever equal. "Select"
 // (kNoKey) is the player's own choice of no key, not damage.
-bool neverTaps(const InventoryModel& model) {
-    const bool slotExists = model[0] >= 1 && model[0] <= 6;
-    return !slotExists || !(model[2] == kNoKey || isKeyCode(model[2])) || !isKeyCode(model[1]);
+bool neverTaps(const SlotBinding& binding) {
+    const bool slotExists = binding.slot >= 1 && binding.slot <= 6;
+    return !slotExists || !(binding.key == kNoKey || isKeyCode(binding.key)) ||
+           !isKeyCode(binding.modifier);
 }
 
 } // namespace
 
-std::string slotTitle(int slot, const InventoryModel& model) {
+std::string slotTitle(int slot, const std::optional<SlotBinding>& binding) {
     std::string title = "Slot " + std::to_string(slot) + "  ";
-    if (model.empty()) {
+    if (!binding) {
         return title + "none";
     }
-    if (model.size() < 3 || neverTaps(model)) {
+    if (binding->isCutShort() || neverTaps(*binding)) {
         return title + "(damaged)";
     }
-    const InventoryDisplay shown = displayOf(model);
+    const InventoryDisplay shown = displayOf(binding);
     if (shown.shift) {
         title += "Shift+";
     }

@@ -14,16 +14,9 @@ template <typename T> T& required(const std::unique_ptr<T>& part, const char* wh
 }
 } // namespace
 
-RemapperSession::RemapperSession(const InventoryRemapper::Models& inventoryModels,
-                                 Platform& platform)
-    : RemapperSession(inventoryModels, kInventoryOptionsOff, platform) {}
-
-RemapperSession::RemapperSession(const InventoryRemapper::Models& inventoryModels,
-                                 const InventoryOptions& options, Platform& platform)
-    : platform_(platform),
-      remapper_(std::make_shared<InventoryRemapper>(
-          inventoryModels, required(platform.keyPoster, "the platform has no key poster"),
-          options)) {
+RemapperSession::RemapperSession(Platform& platform)
+    : platform_(platform), remapper_(std::make_shared<InventoryRemapper>(
+                               required(platform.keyPoster, "the platform has no key poster"))) {
     required(platform.keyObserver, "the platform has no key observer");
     required(platform.frontmostApplication, "the platform has no frontmost application");
     required(platform.frontmostWatcher, "the platform has no frontmost watcher");
@@ -51,6 +44,10 @@ void RemapperSession::installObservers() {
         }
     });
     remapper_->frontmostChanged(watcher->frontmostIdentifier());
+}
+
+void RemapperSession::setBindings(const InventoryBindings& bindings) {
+    remapper_->setBindings(bindings);
 }
 
 void RemapperSession::eventWithTimer() {

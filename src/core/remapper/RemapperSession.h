@@ -10,15 +10,13 @@ namespace tarnic {
 // Connects the remapper to a platform: the observers feed its decisions, the platform's poster
 // types its taps, the game-detection tick asks the platform which application is in front, and
 // the frontmost watcher tells it of every change of the window in front.
-// The owner (the main window's controller) keeps the session, the bindings, the options and the
-// platform for the life of the process.
+// The owner (Application) keeps the session and the platform for the life of the process, and
+// hands the session a copy of the bindings whenever they change.
 class RemapperSession {
 public:
-    // Reads `inventoryModels` and `options` afresh on every key press. The platform must outlive
-    // the session.
-    RemapperSession(const InventoryRemapper::Models& inventoryModels, Platform& platform);
-    RemapperSession(const InventoryRemapper::Models& inventoryModels,
-                    const InventoryOptions& options, Platform& platform);
+    // No slot is bound and both options are off until setBindings. The platform must outlive the
+    // session.
+    explicit RemapperSession(Platform& platform);
 
     RemapperSession(const RemapperSession&) = delete;
     RemapperSession& operator=(const RemapperSession&) = delete;
@@ -32,6 +30,10 @@ public:
     // arrived (no request to the display server): the decision is about the window in front at
     // that moment.
     void installObservers();
+
+    // The bindings and options from the next key press on: a copy, so the caller's may change
+    // without reaching the remapper until it calls again.
+    void setBindings(const InventoryBindings& bindings);
 
     // The game-detection tick: refreshes isWarRun from the frontmost application.
     void eventWithTimer();
