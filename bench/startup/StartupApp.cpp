@@ -30,7 +30,7 @@ int main(int argc, char* argv[]) {
         quit = std::make_unique<tarnic::bench::QuitAfterIcon>(app.window());
     } else {
         quit = std::make_unique<tarnic::bench::QuitAfterFirstPaint>(
-            *app.controller().tableView->viewport());
+            *app.editor().tableView().viewport());
     }
     app.start();
     return QApplication::exec();

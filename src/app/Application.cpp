@@ -21,7 +21,7 @@ const QString kDesktopId = QStringLiteral("org.tarnic.TarnicPro");
 constexpr std::chrono::milliseconds kIconAtTheLatest{500};
 
 // Opens the store on another thread and hands it over to this one, where it is used. A first
-// start's store gets the catalogue there as well, just as the controller would store it when the
+// start's store gets the catalogue there as well, just as the editor would store it when the
 // view loads (it then finds the list already there): the write and its flushes to disk overlap
 // the building of the window instead of holding up the first frame.
 std::future<std::unique_ptr<QSettings>> readStore() {
@@ -51,35 +51,60 @@ Application::Options::Options() : siteUrl(siteBaseUrl()) {}
 Application::Application(Platform platform, Options options)
     : options_(std::move(options)), fatalAlerts_(options_.alerts), storeReading_(readStore()),
       platform_(std::move(platform)), store_(FatalAlerts::take(storeReading_)),
-      programOptions_(openProgramOptions()),
-      controller_(*store_, *programOptions_, inventoryBindings_), remapperSession_(platform_),
-      delegate_(*platform_.accessibilityTrust, options_.siteUrl,
-                options_.alerts != nullptr ? *options_.alerts : messageBoxes_) {
+      programOptions_(openProgramOptions()), editor_(*store_),
+      // The import reports through the same seam as the version gate.
+      fileExchange_(editor_, alerts()),
+      inventoryPanel_(*store_, *programOptions_, inventoryBindings_), remapperSession_(platform_),
+      delegate_(*platform_.accessibilityTrust, options_.siteUrl, alerts()) {
     QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &delegate_,
                      &AppDelegate::applicationWillTerminate);
-    window_.connectController(controller_);
+    window_.connectControllers(editor_, fileExchange_, inventoryPanel_);
     QObject::connect(
-        &controller_, &ViewController::bindingsChanged, &controller_,
+        &inventoryPanel_, &InventoryPanelController::bindingsChanged, &inventoryPanel_,
         [this](const InventoryBindings& bindings) { remapperSession_.setBindings(bindings); });
-    // The import reports through the same seam as the version gate.
-    controller_.setAlerts(options_.alerts != nullptr ? *options_.alerts : messageBoxes_);
+    // A binding the panel stores takes along a list an earlier write could not store.
+    QObject::connect(&inventoryPanel_, &InventoryPanelController::storeWritten, &editor_,
+                     &EditorController::storeWritten);
 }
 
 Application::~Application() = default;
 
+AlertPresenter& Application::alerts() {
+    return options_.alerts != nullptr ? *options_.alerts : messageBoxes_;
+}
+
+void Application::windowWillClose() {
+    // Queued: the loop ends after the event that asked for it has been handled.
+    QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit,
+                              Qt::QueuedConnection);
+}
+
 void Application::start() {
-    controller_.viewDidLoad();
-    controller_.showInventoryStatus(*platform_.accessibilityTrust);
+    // The view loads: the bindings before the list, as a store of the wrong type must end the
+    // program the same way whichever key is damaged first.
+    inventoryPanel_.loadBindings();
+    editor_.viewDidLoad();
+    fileExchange_.viewDidLoad();
+    inventoryPanel_.viewDidLoad();
+    // Hiding the application ends it, as closing the window does.
+    QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &window_,
+                     [](Qt::ApplicationState state) {
+                         if (state == Qt::ApplicationHidden) {
+                             windowWillClose();
+                         }
+                     });
+    inventoryPanel_.showInventoryStatus(*platform_.accessibilityTrust);
     // The inventory remapper: watch the keys of other applications (key-down, then modifier
     // changes) and look for the game every 2 seconds. Neither is ever removed.
     remapperSession_.installObservers();
     gameDetectionTimer_ = std::make_unique<GameDetectionTimer>(remapperSession_, nullptr,
                                                                options_.gameDetectionInterval);
     window_.show();
-    controller_.viewDidAppear();
-    AlertPresenter& alerts = options_.alerts != nullptr ? *options_.alerts : messageBoxes_;
+    // From now on closing the window ends the application.
+    QObject::connect(&window_, &MainWindow::closing, &window_, &Application::windowWillClose);
+    AlertPresenter& alerts = this->alerts();
     afterFirstPaint_ = std::make_unique<AfterFirstPaint>(
-        *controller_.tableView->viewport(), kIconAtTheLatest,
+        *editor_.tableView().viewport(), kIconAtTheLatest,
         [this, &alerts, aside = storeSetAsideAs(*store_)] {
             QApplication::setWindowIcon(QIcon::fromTheme(kDesktopId));
             // Once, over the window: the player's list and bindings look lost until he reads this.

@@ -3,8 +3,10 @@
 #include "app/AfterFirstPaint.h"
 #include "core/platform/Platform.h"
 #include "core/remapper/RemapperSession.h"
+#include "gui/EditorController.h"
+#include "gui/FileExchangeController.h"
+#include "gui/InventoryPanelController.h"
 #include "gui/MainWindow.h"
-#include "gui/ViewController.h"
 #include "platform/timer/GameDetectionTimer.h"
 #include "shell/AppDelegate.h"
 #include "shell/FatalAlerts.h"
@@ -27,8 +29,10 @@ class AlertPresenter;
 void setApplicationIdentity();
 
 // The whole program, put together in one place, in start-up order: the store (read on a thread of
-// its own meanwhile) and the options file, the platform, the window with its menus, the controller
-// with the remapper session and its game-detection timer, and the delegate. `main` runs one; the
+// its own meanwhile) and the options file, the platform, the window with its menus, its three
+// controllers (the hotkey editor, the file exchange, the inventory panel), the remapper session
+// with its game-detection timer, and the delegate. Closing the window, or hiding the
+// application, ends it. `main` runs one; the
 // window tests run one on the recording fakes.
 class Application {
 public:
@@ -59,8 +63,10 @@ public:
 
     QSettings& store() { return *store_; }
     Platform& platform() { return platform_; }
-    ViewController& controller() { return controller_; }
-    // The inventory keys as the window shows them; the remapper session has a copy.
+    EditorController& editor() { return editor_; }
+    FileExchangeController& fileExchange() { return fileExchange_; }
+    InventoryPanelController& inventoryPanel() { return inventoryPanel_; }
+    // The inventory keys as the panel shows them; the remapper session has a copy.
     const InventoryBindings& inventoryBindings() const { return inventoryBindings_; }
     RemapperSession& remapperSession() { return remapperSession_; }
     // Null until start().
@@ -69,25 +75,32 @@ public:
     AppDelegate& delegate() { return delegate_; }
 
 private:
+    // Ends the application; nothing is saved at this point.
+    static void windowWillClose();
+    // Where alerts go: the tests' presenter, else real message boxes.
+    AlertPresenter& alerts();
+
     Options options_;
     // First: from here on a fatal error is also shown in a message box.
     FatalAlerts fatalAlerts_;
     // The store is read on a thread of its own while the window is built: reading and parsing the
     // whole list is the largest piece of start-up that needs no GUI. It is waited for before the
-    // controller, the first to use it.
+    // controllers, the first to use it.
     std::future<std::unique_ptr<QSettings>> storeReading_;
     Platform platform_;
     MainWindow window_;
     std::unique_ptr<QSettings> store_;
     std::unique_ptr<QSettings> programOptions_;
-    // The six slot bindings and their options: the window edits them, and hands the remapper
-    // session a copy at every change.
+    MessageBoxAlertPresenter messageBoxes_;
+    // The six slot bindings and their options: the panel edits them, and the remapper session
+    // gets a copy at every change.
     InventoryBindings inventoryBindings_;
-    ViewController controller_;
+    EditorController editor_;
+    FileExchangeController fileExchange_;
+    InventoryPanelController inventoryPanel_;
     RemapperSession remapperSession_;
     std::unique_ptr<GameDetectionTimer> gameDetectionTimer_;
     std::unique_ptr<AfterFirstPaint> afterFirstPaint_;
-    MessageBoxAlertPresenter messageBoxes_;
     AppDelegate delegate_;
 };
 

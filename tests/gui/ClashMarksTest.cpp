@@ -29,7 +29,7 @@ protected:
     // The "New" column's cell of a row.
     QModelIndex newCell(int row) {
         const int column =
-            static_cast<int>(vc().tableModel().columnIdentifiers().indexOf("new hotkey"));
+            static_cast<int>(editor().tableModel().columnIdentifiers().indexOf("new hotkey"));
         EXPECT_GE(column, 0);
         return ui().tableView->model()->index(row, column);
     }
@@ -103,8 +103,8 @@ TEST_F(ClashMarks, ResetBringsBackTheGameKeysClashes) {
 TEST_F(ClashMarks, ImportMarksTheClashesOfTheFile) {
     click(*ui().gridButton);
     ASSERT_EQ(count(), "No clashes");
-    QSignalSpy finished(&vc(), &ViewController::importFinished);
-    vc().fileDialog().setNextAnswer(
+    QSignalSpy finished(&exchange(), &FileExchangeController::importFinished);
+    exchange().fileDialog().setNextAnswer(
         QStringLiteral(TARNIC_SOURCE_DIR "/tests/data/game-default-CustomKeys.txt"));
     ui().actionImport->trigger();
     ASSERT_TRUE(!finished.isEmpty() || finished.wait(5000));

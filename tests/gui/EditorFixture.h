@@ -6,7 +6,6 @@
 #include "core/record/AbilityRecord.h"
 #include "core/bindings/SlotBinding.h"
 #include "gui/MainWindow.h"
-#include "gui/ViewController.h"
 #include "platform/fake/FakePlatform.h"
 
 #include <QByteArray>
@@ -67,7 +66,9 @@ protected:
 
     WindowControls& ui() { return *controls_; }
     Application& app() { return *app_; }
-    ViewController& vc() { return app_->controller(); }
+    EditorController& editor() { return app_->editor(); }
+    FileExchangeController& exchange() { return app_->fileExchange(); }
+    InventoryPanelController& panel() { return app_->inventoryPanel(); }
     MainWindow& window() { return app_->window(); }
     RecordingAlerts& alerts() { return alerts_; }
     // What the remapper watches and types through: recording fakes the tests drive.

@@ -28,14 +28,14 @@ TEST_F(EditorState, InitialValuesBeforeTheViewLoads) {
     const std::unique_ptr<QSettings> settings = openUserDefaults();
     const std::unique_ptr<QSettings> options = openProgramOptions();
     InventoryBindings bindings;
-    ViewController controller(*settings, *options, bindings);
-    EXPECT_EQ(controller.def_keys_bundle, "");
-    EXPECT_EQ(controller.result, "");
-    EXPECT_EQ(controller.inventoryEditNow, 0);
+    EditorController editor(*settings);
+    FileExchangeController exchange(editor, alerts());
+    InventoryPanelController panel(*settings, *options, bindings);
+    EXPECT_EQ(exchange.def_keys_bundle(), "");
+    EXPECT_EQ(exchange.result(), "");
+    EXPECT_EQ(panel.inventoryEditNow(), 0);
     EXPECT_EQ(bindings, InventoryBindings{});
-    EXPECT_EQ(controller.mainDic, all_data());
-    EXPECT_EQ(&controller.keyboardKeys, &keyboardKeys);
-    EXPECT_EQ(&controller.keyboardKeysNum, &keyboardKeysNum);
+    EXPECT_EQ(editor.mainDic(), all_data());
     // Nothing is stored before the view loads.
     EXPECT_FALSE(QFile::exists(storePath()));
 }
@@ -43,10 +43,11 @@ TEST_F(EditorState, InitialValuesBeforeTheViewLoads) {
 TEST_F(EditorState, FirstRunShowsAndStoresTheCatalogueWithEverySlotEmpty) {
     launch();
     const auto& catalogue = all_data();
-    ASSERT_EQ(vc().tableModel().rowCount(), static_cast<int>(catalogue.size()));
+    ASSERT_EQ(editor().tableModel().rowCount(), static_cast<int>(catalogue.size()));
     for (std::size_t r = 0; r < catalogue.size(); ++r) {
-        EXPECT_EQ(vc().tableModel().index(static_cast<int>(r), 0).data().toString().toStdString(),
-                  catalogue[r].at(name_spell));
+        EXPECT_EQ(
+            editor().tableModel().index(static_cast<int>(r), 0).data().toString().toStdString(),
+            catalogue[r].at(name_spell));
     }
     EXPECT_EQ(storedMainDic(), catalogue);
     for (int n = 1; n <= 6; ++n) {
@@ -60,9 +61,9 @@ TEST_F(EditorState, StoredListReplacesTheCatalogueWhole) {
     list.push_back(makeRecord("Lost Ability", "Old Unit", "L"));
     storeMainDic(list);
     launch();
-    EXPECT_EQ(vc().mainDic, list);
-    ASSERT_EQ(vc().tableModel().rowCount(), 8);
-    EXPECT_EQ(vc().tableModel().index(7, 0).data().toString(), "Lost Ability");
+    EXPECT_EQ(editor().mainDic(), list);
+    ASSERT_EQ(editor().tableModel().rowCount(), 8);
+    EXPECT_EQ(editor().tableModel().index(7, 0).data().toString(), "Lost Ability");
     EXPECT_EQ(storedMainDic(), list);
     EXPECT_EQ(ui().spellLbl->text(), "Move");
 }
@@ -71,11 +72,11 @@ TEST_F(EditorState, SingleAssignmentIsLostAtTheNextStart) {
     launch();
     clickRow(3);
     choose(*ui().keysPopup, "Q");
-    ASSERT_EQ(vc().mainDic[3].at(new_hotkey), "Q");
+    ASSERT_EQ(editor().mainDic()[3].at(new_hotkey), "Q");
     EXPECT_EQ(storedMainDic(), all_data());
     launch();
-    EXPECT_EQ(vc().mainDic[3].at(new_hotkey), "");
-    EXPECT_EQ(vc().mainDic, all_data());
+    EXPECT_EQ(editor().mainDic()[3].at(new_hotkey), "");
+    EXPECT_EQ(editor().mainDic(), all_data());
 }
 
 TEST_F(EditorState, AssignmentFollowedByGridLayoutSurvives) {
@@ -83,10 +84,10 @@ TEST_F(EditorState, AssignmentFollowedByGridLayoutSurvives) {
     clickRow(3);
     choose(*ui().keysPopup, "Q");
     click(*ui().gridButton);
-    const auto laidOut = vc().mainDic;
+    const auto laidOut = editor().mainDic();
     launch();
-    EXPECT_EQ(vc().mainDic[3].at(new_hotkey), "Q");
-    EXPECT_EQ(vc().mainDic, laidOut);
+    EXPECT_EQ(editor().mainDic()[3].at(new_hotkey), "Q");
+    EXPECT_EQ(editor().mainDic(), laidOut);
 }
 
 TEST_F(EditorState, OnlyTheStoredSlotsAreRestored) {
@@ -129,8 +130,8 @@ TEST_F(EditorState, TemplateIsTheShippedFileWhole) {
     launch();
     QFile shipped(QStringLiteral(TARNIC_SOURCE_DIR "/resources/defaultkeys"));
     ASSERT_TRUE(shipped.open(QIODevice::ReadOnly));
-    EXPECT_EQ(vc().def_keys_bundle, shipped.readAll().toStdString());
-    EXPECT_NE(vc().def_keys_bundle.find(mark), std::string::npos);
+    EXPECT_EQ(exchange().def_keys_bundle(), shipped.readAll().toStdString());
+    EXPECT_NE(exchange().def_keys_bundle().find(mark), std::string::npos);
 }
 
 TEST_F(EditorState, WithoutTheTemplateStartUpCompletesWithAnEmptyTemplate) {
@@ -138,7 +139,7 @@ TEST_F(EditorState, WithoutTheTemplateStartUpCompletesWithAnEmptyTemplate) {
     unregisterTemplate();
     launch();
     registerTemplate();
-    EXPECT_EQ(vc().def_keys_bundle, "");
+    EXPECT_EQ(exchange().def_keys_bundle(), "");
     EXPECT_EQ(ui().spellLbl->text().toStdString(), all_data().at(0).at(name_spell));
 }
 
@@ -157,7 +158,7 @@ TEST_F(EditorState, OtherApplicationStatesDoNotEndIt) {
 
 TEST_F(EditorState, ClosingTheWindowEndsIt) {
     launch();
-    // Not Qt's own last-window rule: the controller ends the application.
+    // Not Qt's own last-window rule: the application ends itself.
     QApplication::setQuitOnLastWindowClosed(false);
     const bool quit = quitsAfter([this] { window().close(); });
     QApplication::setQuitOnLastWindowClosed(true);
@@ -187,7 +188,7 @@ TEST_F(EditorState, UnparsableStoreIsKeptAsideAndTheCatalogueLoads) {
         file.write(garbage);
     }
     launch();
-    EXPECT_EQ(vc().mainDic, all_data());
+    EXPECT_EQ(editor().mainDic(), all_data());
     const QDir folder = QFileInfo(storePath()).dir();
     const QStringList aside =
         folder.entryList({QFileInfo(storePath()).fileName() + "*unreadable*"}, QDir::Files);
@@ -213,10 +214,14 @@ TEST_F(EditorStateDeathTest, BindingOfTheWrongTypeEndsTheProgram) {
 TEST_F(EditorStateDeathTest, UnconnectedOutletEndsTheProgram) {
     const std::unique_ptr<QSettings> settings = openUserDefaults();
     const std::unique_ptr<QSettings> options = openProgramOptions();
-    InventoryBindings bindings;
-    ViewController controller(*settings, *options, bindings);
-    EXPECT_DEATH(controller.viewDidLoad(),
+    EditorController editor(*settings);
+    EXPECT_DEATH(editor.viewDidLoad(),
                  "Unexpectedly found nil while implicitly unwrapping an Optional value: keysPopup");
+    InventoryBindings bindings;
+    InventoryPanelController panel(*settings, *options, bindings);
+    EXPECT_DEATH(
+        panel.viewDidLoad(),
+        "Unexpectedly found nil while implicitly unwrapping an Optional value: inventPopup");
 }
 
 TEST_F(EditorStateDeathTest, OutletWhoseControlIsGoneEndsTheProgramAtItsUse) {

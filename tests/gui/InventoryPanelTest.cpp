@@ -23,17 +23,17 @@ protected:
 };
 
 TEST_F(InventoryPanel, ControlsStayHiddenUntilTheFirstSlotIsChosen) {
-    EXPECT_EQ(vc().inventoryEditNow, 0);
+    EXPECT_EQ(panel().inventoryEditNow(), 0);
     EXPECT_TRUE(ui().inventPopup->isHidden());
     EXPECT_TRUE(ui().isShiftBox->isHidden());
     EXPECT_TRUE(ui().delBTN->isHidden());
     click(slotButton(4));
-    EXPECT_EQ(vc().inventoryEditNow, 4);
+    EXPECT_EQ(panel().inventoryEditNow(), 4);
     EXPECT_FALSE(ui().inventPopup->isHidden());
     EXPECT_FALSE(ui().isShiftBox->isHidden());
     EXPECT_FALSE(ui().delBTN->isHidden());
     click(slotButton(2));
-    EXPECT_EQ(vc().inventoryEditNow, 2);
+    EXPECT_EQ(panel().inventoryEditNow(), 2);
     EXPECT_FALSE(ui().inventPopup->isHidden());
 }
 
@@ -121,7 +121,7 @@ TEST_F(InventoryPanel, DeleteRemovesOnlyTheEditedSlot) {
     EXPECT_EQ(app().inventoryBindings().of(4), (SlotBinding{4, 0, 15}));
     EXPECT_EQ(storedInventoryModel(4), (SlotBinding{4, 0, 15}));
     // The panel keeps editing slot 2, showing it unbound.
-    EXPECT_EQ(vc().inventoryEditNow, 2);
+    EXPECT_EQ(panel().inventoryEditNow(), 2);
     EXPECT_EQ(shownTitle(), "Select");
     EXPECT_FALSE(shownShift());
     EXPECT_FALSE(ui().delBTN->isHidden());
@@ -151,8 +151,8 @@ TEST_F(InventoryPanel, UnboundSlotShowsSelectAndAnUntickedBoxWhateverWasShown) {
 
 TEST_F(InventoryPanel, DeleteOrKeyPickWithoutASlotChangesOnlyTheControls) {
     // The controls are hidden until a slot is chosen; their actions still run safely.
-    vc().setInventoryKey();
-    vc().eraseKey();
+    panel().setInventory();
+    panel().eraseKey();
     for (int n = 1; n <= 6; ++n) {
         EXPECT_FALSE(app().inventoryBindings().of(n).has_value());
         EXPECT_FALSE(storeHasKey(QStringLiteral("inventoryModel%1").arg(n)));
