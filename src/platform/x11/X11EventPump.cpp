@@ -1,5 +1,7 @@
 #include "platform/x11/X11EventPump.h"
 
+#include "core/platform/NotifyAll.h"
+
 #include <QAbstractEventDispatcher>
 #include <QSocketNotifier>
 
@@ -46,22 +48,12 @@ void X11EventPump::readPending() {
         XEvent event{};
         XNextEvent(display_, &event);
         any = true;
-        // By index and by copy: a listener may add or remove listeners while it runs.
-        for (std::size_t i = 0; i < listeners_.size(); ++i) {
-            const EventHandler handler = listeners_[i].onEvent;
-            if (handler) {
-                handler(event);
-            }
-        }
+        // A listener may add or remove listeners while it runs.
+        notifyAllOf(listeners_, &Listener::onEvent, event);
     }
     reading_ = false;
     if (any) {
-        for (std::size_t i = 0; i < listeners_.size(); ++i) {
-            const SettledHandler settled = listeners_[i].settled;
-            if (settled) {
-                settled();
-            }
-        }
+        notifyAllOf(listeners_, &Listener::settled);
     }
 }
 
