@@ -25,7 +25,6 @@ public:
 
     // Takes a copy of the bindings and options, used from the next key press on.
     void setBindings(const InventoryBindings& bindings);
-    const InventoryBindings& bindings() const { return bindings_; }
 
     // Key code of the most recent modifier change, and a parity bit flipped by every change.
     std::int64_t flagHold = -1;
