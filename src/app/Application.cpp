@@ -57,6 +57,7 @@ Application::Application(Platform platform, Options options)
                 options_.alerts != nullptr ? *options_.alerts : messageBoxes_) {
     QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &delegate_,
                      &AppDelegate::applicationWillTerminate);
+    controller_.setKeyPathLock(platform_.keyPath);
     window_.connectController(controller_);
     // The import reports through the same seam as the version gate.
     controller_.setAlerts(options_.alerts != nullptr ? *options_.alerts : messageBoxes_);

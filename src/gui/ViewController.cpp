@@ -54,9 +54,14 @@ ViewController::ViewController(QSettings& settings, QSettings& options, QObject*
 
 ViewController::~ViewController() = default;
 
+std::unique_lock<KeyPathLock> ViewController::lockKeyPath() {
+    return keyPath_ ? std::unique_lock(*keyPath_) : std::unique_lock<KeyPathLock>();
+}
+
 void ViewController::viewDidLoad() {
     for (int n = 1; n <= 6; ++n) {
         if (std::optional<InventoryModel> stored = defaults_.inventoryModel(n)) {
+            const auto guard = lockKeyPath();
             inventoryModels[static_cast<std::size_t>(n - 1)] = std::move(*stored);
         }
     }
@@ -110,7 +115,11 @@ void ViewController::viewDidLoad() {
     for (int n = 1; n <= 6; ++n) {
         showSlotTitle(n);
     }
-    inventoryOptions = options_.inventoryOptions();
+    {
+        const InventoryOptions stored = options_.inventoryOptions();
+        const auto guard = lockKeyPath();
+        inventoryOptions = stored;
+    }
     outlet(onlyInGameBox, "onlyInGameBox").setChecked(inventoryOptions.onlyWhileGameInFront);
     outlet(pauseInChatBox, "pauseInChatBox").setChecked(inventoryOptions.pauseWhileTypingInChat);
 }
@@ -362,7 +371,10 @@ void ViewController::setInventory() {
     const bool shift = outlet(isShiftBox, "isShiftBox").checkState() != Qt::Unchecked;
     if (std::optional<InventoryModel> binding = bindingFrom(inventoryEditNow, title, shift)) {
         const auto slot = static_cast<int>(inventoryEditNow);
-        inventoryModels[static_cast<std::size_t>(slot - 1)] = *binding;
+        {
+            const auto guard = lockKeyPath();
+            inventoryModels[static_cast<std::size_t>(slot - 1)] = *binding;
+        }
         storeWritten(defaults_.setInventoryModel(slot, *binding));
         showSlotTitle(slot);
     }
@@ -378,19 +390,29 @@ void ViewController::eraseKey() {
     selectItemWithTitle(outlet(inventPopup, "inventPopup"), select);
     if (inventoryEditNow >= 1 && inventoryEditNow <= 6) {
         const auto slot = static_cast<int>(inventoryEditNow);
-        InventoryModel().swap(inventoryModels[static_cast<std::size_t>(slot - 1)]);
+        {
+            const auto guard = lockKeyPath();
+            InventoryModel().swap(inventoryModels[static_cast<std::size_t>(slot - 1)]);
+        }
         storeWritten(defaults_.removeInventoryModel(slot));
         showSlotTitle(slot);
     }
 }
 
 void ViewController::setOnlyWhileGameInFront() {
-    inventoryOptions.onlyWhileGameInFront = outlet(onlyInGameBox, "onlyInGameBox").isChecked();
+    {
+        const auto guard = lockKeyPath();
+        inventoryOptions.onlyWhileGameInFront = outlet(onlyInGameBox, "onlyInGameBox").isChecked();
+    }
     options_.setOnlyWhileGameInFront(inventoryOptions.onlyWhileGameInFront);
 }
 
 void ViewController::setPauseWhileTypingInChat() {
-    inventoryOptions.pauseWhileTypingInChat = outlet(pauseInChatBox, "pauseInChatBox").isChecked();
+    {
+        const auto guard = lockKeyPath();
+        inventoryOptions.pauseWhileTypingInChat =
+            outlet(pauseInChatBox, "pauseInChatBox").isChecked();
+    }
     options_.setPauseWhileTypingInChat(inventoryOptions.pauseWhileTypingInChat);
 }
 

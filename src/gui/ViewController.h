@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/platform/AccessibilityTrust.h"
+#include "core/platform/KeyPathLock.h"
 #include "core/record/AbilityRecord.h"
 #include "core/remapper/InventoryRemapper.h"
 #include "core/vocabulary/KeyCodes.h"
@@ -96,6 +97,9 @@ public:
     // Where the import's message goes; without one, a message box. It must outlive the
     // controller.
     void setAlerts(AlertPresenter& alerts) { alerts_ = &alerts; }
+    // The remapper reads the bindings and the options on the key thread: they change only while
+    // this lock is held. Without one (no remapper), they change freely.
+    void setKeyPathLock(std::shared_ptr<KeyPathLock> lock) { keyPath_ = std::move(lock); }
     // The table's data.
     AbilityTableModel& tableModel() { return tableModel_; }
 
@@ -135,6 +139,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    // Held while the bindings or the options change.
+    std::unique_lock<KeyPathLock> lockKeyPath();
+
     void invent(std::int64_t slot);
     // Titles slot button `slot` (1 to 6) with its binding.
     void showSlotTitle(int slot);
@@ -162,6 +169,7 @@ private:
     std::vector<AbilityRecord> storedDic_;
     std::vector<AbilityRecord> handedDic_;
     AlertPresenter* alerts_ = nullptr;
+    std::shared_ptr<KeyPathLock> keyPath_;
     ProgramOptions options_;
     AbilityTableModel tableModel_;
     FileDialog fileDialog_;

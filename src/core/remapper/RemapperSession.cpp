@@ -2,11 +2,13 @@
 
 #include "core/fatal/Fatal.h"
 
+#include <mutex>
+
 namespace tarnic {
 
 namespace {
 // A platform is built whole at start-up; a missing piece is a programming error.
-template <typename T> T& required(const std::unique_ptr<T>& part, const char* what) {
+template <typename Pointer> auto& required(const Pointer& part, const char* what) {
     if (!part) {
         fatalError(kNilUnwrap, what);
     }
@@ -25,11 +27,18 @@ RemapperSession::RemapperSession(const InventoryRemapper::Models& inventoryModel
           inventoryModels, required(platform.keyPoster, "the platform has no key poster"),
           options)) {
     required(platform.keyObserver, "the platform has no key observer");
+    required(platform.keyPath, "the platform has no key-path lock");
     required(platform.frontmostApplication, "the platform has no frontmost application");
     required(platform.frontmostWatcher, "the platform has no frontmost watcher");
 }
 
+RemapperSession::~RemapperSession() {
+    const std::lock_guard lock(*platform_.keyPath);
+    remapper_.reset();
+}
+
 void RemapperSession::installObservers() {
+    const std::lock_guard lock(*platform_.keyPath);
     const std::weak_ptr<InventoryRemapper> remapper = remapper_;
     FrontmostWatcher* watcher = platform_.frontmostWatcher.get();
     platform_.keyObserver->addKeyDownMonitor([remapper, watcher](int keyCode) {
@@ -54,6 +63,7 @@ void RemapperSession::installObservers() {
 }
 
 void RemapperSession::eventWithTimer() {
+    const std::lock_guard lock(*platform_.keyPath);
     remapper_->eventWithTimer(*platform_.frontmostApplication);
 }
 

@@ -20,6 +20,8 @@ public:
     RemapperSession(const InventoryRemapper::Models& inventoryModels,
                     const InventoryOptions& options, Platform& platform);
 
+    // Waits for a key being handled on the key thread; the monitors fall silent after.
+    ~RemapperSession();
     RemapperSession(const RemapperSession&) = delete;
     RemapperSession& operator=(const RemapperSession&) = delete;
 
@@ -35,6 +37,10 @@ public:
 
     // The game-detection tick: refreshes isWarRun from the frontmost application.
     void eventWithTimer();
+
+    // The platform's key-path lock: the remapper's state may be read or changed only while it is
+    // held, as the key thread handles keys meanwhile.
+    KeyPathLock& keyPathLock() { return *platform_.keyPath; }
 
     InventoryRemapper& remapper() { return *remapper_; }
     const InventoryRemapper& remapper() const { return *remapper_; }
