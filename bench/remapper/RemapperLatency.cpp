@@ -463,11 +463,11 @@ int main(int argc, char** argv) {
     const bool longComplete = longArrived && longRun.everyTapWhole &&
                               longRun.downs == longPresses && longRun.ups == longPresses &&
                               longRun.triggers == longPresses;
-    std::printf("\nlong run (remapper alone): %d presses %d ms apart: %d triggers, %d keypad "
+    std::printf("\nlong run (application alone): %d presses %d ms apart: %d triggers, %d keypad "
                 "downs, %d keypad ups, every tap one down then one up: %s, none lost: %s\n",
                 longPresses, longSpacingMs, longRun.triggers, longRun.downs, longRun.ups,
                 longRun.everyTapWhole ? "yes" : "NO", longComplete ? "yes" : "NO");
-    std::printf("\ntargets: remapper's added time at most 1.1x the floor's at p50 and p99: %s; "
+    std::printf("\ntargets: application's added time at most 1.1x the floor's at p50 and p99: %s; "
                 "long run complete: %s\n",
                 floorOk ? "met" : "NOT MET", longComplete ? "met" : "NOT MET");
     return 0;
