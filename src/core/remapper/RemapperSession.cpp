@@ -2,6 +2,7 @@
 
 #include "core/fatal/Fatal.h"
 
+#include <chrono>
 #include <mutex>
 
 namespace tarnic {
@@ -63,7 +64,12 @@ void RemapperSession::installObservers() {
 }
 
 void RemapperSession::eventWithTimer() {
-    const std::lock_guard lock(*platform_.keyPath);
+    // A key holds the lock for microseconds. Much longer, and the key thread is waiting for the
+    // main thread itself (to show a fatal error): this tick is skipped, the next comes soon.
+    const std::unique_lock lock(*platform_.keyPath, std::chrono::milliseconds(200));
+    if (!lock.owns_lock()) {
+        return;
+    }
     remapper_->eventWithTimer(*platform_.frontmostApplication);
 }
 

@@ -35,8 +35,9 @@ X11EventPump::X11EventPump(Display* display, std::shared_ptr<KeyPathLock> lock)
     if (QAbstractEventDispatcher* dispatcher = QAbstractEventDispatcher::instance()) {
         QObject::connect(
             dispatcher, &QAbstractEventDispatcher::aboutToBlock, notifier_.get(), [this] {
-                // Xlib's queue is the lock's to guard, as much as the listeners.
-                const std::unique_lock lock(*lock_, kLockPatience);
+                // Xlib's queue is the lock's to guard, as much as the listeners. No waiting here:
+                // this runs at every pass of the event loop.
+                const std::unique_lock lock(*lock_, std::try_to_lock);
                 if (!lock.owns_lock()) {
                     QTimer::singleShot(kRetryAfter, notifier_.get(), [this] { readSoon(); });
                 } else if (XEventsQueued(display_, QueuedAlready) > 0) {
