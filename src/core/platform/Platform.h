@@ -4,6 +4,7 @@
 #include "core/platform/FrontmostApplication.h"
 #include "core/platform/FrontmostWatcher.h"
 #include "core/platform/KeyObserver.h"
+#include "core/platform/KeyPathLock.h"
 #include "core/platform/KeyPoster.h"
 
 #include <memory>
@@ -20,6 +21,9 @@ struct Platform {
     // The frontmost application as the desktop announces it, for the inventory options that
     // depend on the window in front at the moment of a key press.
     std::unique_ptr<FrontmostWatcher> frontmostWatcher;
+    // Held while a key is handled; the key observer may call its handlers on a thread of its
+    // own, under this lock.
+    std::shared_ptr<KeyPathLock> keyPath = makeKeyPathLock();
 };
 
 } // namespace tarnic

@@ -18,6 +18,8 @@ public:
     // session.
     explicit RemapperSession(Platform& platform);
 
+    // Waits for a key being handled on the key thread; the monitors fall silent after.
+    ~RemapperSession();
     RemapperSession(const RemapperSession&) = delete;
     RemapperSession& operator=(const RemapperSession&) = delete;
 
@@ -32,11 +34,16 @@ public:
     void installObservers();
 
     // The bindings and options from the next key press on: a copy, so the caller's may change
-    // without reaching the remapper until it calls again.
+    // without reaching the remapper until it calls again. Taken under the key-path lock, so a
+    // key being handled on the key thread sees the old ones or the new ones, whole.
     void setBindings(const InventoryBindings& bindings);
 
     // The game-detection tick: refreshes isWarRun from the frontmost application.
     void eventWithTimer();
+
+    // The platform's key-path lock: the remapper's state may be read or changed only while it is
+    // held, as the key thread handles keys meanwhile.
+    KeyPathLock& keyPathLock() { return *platform_.keyPath; }
 
     InventoryRemapper& remapper() { return *remapper_; }
     const InventoryRemapper& remapper() const { return *remapper_; }
