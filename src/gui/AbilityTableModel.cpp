@@ -8,6 +8,8 @@
 #include <QPixmap>
 #include <QStyle>
 
+#include <algorithm>
+
 namespace tarnic {
 
 AbilityTableModel::AbilityTableModel(const std::vector<AbilityRecord>& list, QObject* parent)
@@ -53,7 +55,11 @@ void AbilityTableModel::rowChanged(int row) {
 
 void AbilityTableModel::setClashPartners(std::vector<std::vector<std::size_t>> partners) {
     clashPartners_ = std::move(partners);
-    if (clashIcon_.isNull()) {
+    // The warning sign comes from the icon theme, whose lookup reads the theme's whole index: it
+    // is fetched when the first clash needs it, not for a list without any.
+    const bool anyClash = std::any_of(clashPartners_.begin(), clashPartners_.end(),
+                                      [](const auto& row) { return !row.empty(); });
+    if (anyClash && clashIcon_.isNull()) {
         clashIcon_ = QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
     }
     const int column = static_cast<int>(identifiers_.indexOf(QLatin1String(new_hotkey)));
