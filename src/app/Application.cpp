@@ -17,9 +17,6 @@ namespace {
 
 const QString kDesktopId = QStringLiteral("org.tarnic.TarnicPro");
 
-// The first frame waits for nothing else; a window that opens covered still gets its icon soon.
-constexpr std::chrono::milliseconds kIconAtTheLatest{500};
-
 // Opens the store on another thread and hands it over to this one, where it is used. A first
 // start's store gets the catalogue there as well, just as the editor would store it when the
 // view loads (it then finds the list already there): the write and its flushes to disk overlap
@@ -103,16 +100,23 @@ void Application::start() {
     // From now on closing the window ends the application.
     QObject::connect(&window_, &MainWindow::closing, &window_, &Application::windowWillClose);
     AlertPresenter& alerts = this->alerts();
+    // Launching finishes once the window is on the screen: the version check shows a busy cursor,
+    // whose theme is read from disk, and waits for the site, and neither has a place in the
+    // first frame.
     afterFirstPaint_ = std::make_unique<AfterFirstPaint>(
-        *editor_.tableView().viewport(), kIconAtTheLatest,
+        *editor_.tableView().viewport(), options_.launchAtTheLatest,
         [this, &alerts, aside = storeSetAsideAs(*store_)] {
-            QApplication::setWindowIcon(QIcon::fromTheme(kDesktopId));
-            // Once, over the window: the player's list and bindings look lost until he reads this.
-            if (!aside.isEmpty()) {
-                alerts.show(storeSetAsideAlert(userDefaultsPath(), aside), &window_);
-            }
+            // Queued, so that it comes while the check waits for the site.
+            QTimer::singleShot(0, &window_, [this, &alerts, aside] {
+                QApplication::setWindowIcon(QIcon::fromTheme(kDesktopId));
+                // Once, over the window: the player's list and bindings look lost until he reads
+                // this.
+                if (!aside.isEmpty()) {
+                    alerts.show(storeSetAsideAlert(userDefaultsPath(), aside), &window_);
+                }
+            });
+            delegate_.applicationDidFinishLaunching();
         });
-    QTimer::singleShot(0, &delegate_, &AppDelegate::applicationDidFinishLaunching);
 }
 
 } // namespace tarnic

@@ -43,6 +43,9 @@ public:
         // Where the version gate's alert and the import's message go; null: a real message box.
         AlertPresenter* alerts = nullptr;
         std::chrono::milliseconds gameDetectionInterval{GameDetectionTimer::kIntervalMs};
+        // The first frame waits for nothing else; a window that opens covered, and so gets no
+        // paint, still finishes launching this long after start().
+        std::chrono::milliseconds launchAtTheLatest{500};
 
         Options();
     };
@@ -56,9 +59,10 @@ public:
 
     // Loads the view (the store's bindings and list, the template, row 0), installs the key
     // observers and the game-detection timer, and shows the window. Launching finishes once the
-    // event loop runs: the trust line, then the version gate. The application's icon is looked
-    // up in the icon theme once the table has painted: the lookup reads the theme's whole index,
-    // and nothing in the first frame shows the icon. Call once.
+    // table has painted (or, for a window that opens covered, `launchAtTheLatest` after the start):
+    // the trust line, then the version gate. The application's icon is looked up in the icon theme
+    // while the gate waits: the lookup reads the theme's whole index, and nothing in the first
+    // frame shows the icon. Call once.
     void start();
 
     QSettings& store() { return *store_; }
