@@ -1,7 +1,7 @@
 #include "EditorFixture.h"
 
 #include "core/catalogue/Catalogue.h"
-#include "core/catalogue/CatalogueRecords.h"
+#include "support/catalogue/CatalogueRecords.h"
 
 #include <QIcon>
 #include <QSignalSpy>

@@ -1,6 +1,6 @@
 #include "core/editor/ClashRule.h"
 
-#include "core/catalogue/CatalogueRecords.h"
+#include "support/catalogue/CatalogueRecords.h"
 #include "core/editor/GridLayout.h"
 #include "core/editor/KeyAssignment.h"
 #include "core/editor/RecordFactory.h"

@@ -3,7 +3,7 @@
 
 #include "CatalogueFiles.h"
 #include "core/catalogue/Catalogue.h"
-#include "core/catalogue/CatalogueRecords.h"
+#include "support/catalogue/CatalogueRecords.h"
 #include "core/editor/GridLayout.h"
 #include "core/editor/KeyAssignment.h"
 
