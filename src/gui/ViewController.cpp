@@ -31,8 +31,8 @@ namespace tarnic {
 
 namespace {
 
-QPixmap pictureNamed(const std::string& name) {
-    return picture(qs(name));
+QPixmap pictureFor(const std::string& name) {
+    return pictureNamed(toQString(name));
 }
 
 // The game's own file is about 60 kB; anything past this is not a hotkey file, and reading stops
@@ -63,15 +63,15 @@ void ViewController::viewDidLoad() {
 
     QComboBox& keys = outlet(keysPopup, "keysPopup");
     for (std::string_view title : keyboardKeys) {
-        keys.addItem(qs(title));
+        keys.addItem(toQString(title));
     }
     QComboBox& inventory = outlet(inventPopup, "inventPopup");
-    inventory.addItem(qs(select));
+    inventory.addItem(toQString(select));
     for (std::string_view title : keyboardKeysNum) {
-        inventory.addItem(qs(title));
+        inventory.addItem(toQString(title));
     }
     for (std::string_view title : keyboardKeys) {
-        inventory.addItem(qs(title));
+        inventory.addItem(toQString(title));
     }
 
     // The controller is the table's data source and delegate. The columns belong to the
@@ -117,7 +117,7 @@ void ViewController::viewDidLoad() {
 
 void ViewController::showInventoryStatus(const AccessibilityTrust& trust) {
     outlet(inventStatusLbl, "inventStatusLbl")
-        .setText(qs(inventoryStatusText(trust.isProcessTrusted(), trust.untrustedReason())));
+        .setText(toQString(inventoryStatusText(trust.isProcessTrusted(), trust.untrustedReason())));
 }
 
 void ViewController::viewDidAppear() {
@@ -171,12 +171,12 @@ void ViewController::syncKeysPopup() {
 
 void ViewController::tableViewSelectionDidChange() {
     const SelectionDetail detail = selectionDetail(mainDic[selectedIndex()]);
-    outlet(spellImage, "spellImage").setPixmap(pictureNamed(detail.spellImage));
-    outlet(parentImage, "parentImage").setPixmap(pictureNamed(detail.parentImage));
-    outlet(parentLbl, "parentLbl").setText(qs(detail.parentLbl));
+    outlet(spellImage, "spellImage").setPixmap(pictureFor(detail.spellImage));
+    outlet(parentImage, "parentImage").setPixmap(pictureFor(detail.parentImage));
+    outlet(parentLbl, "parentLbl").setText(toQString(detail.parentLbl));
     selectItemWithTitle(outlet(keysPopup, "keysPopup"), detail.popupTitle);
-    outlet(defHotkey, "defHotkey").setText(qs(detail.defHotkey));
-    outlet(spellLbl, "spellLbl").setText(qs(detail.spellLbl));
+    outlet(defHotkey, "defHotkey").setText(toQString(detail.defHotkey));
+    outlet(spellLbl, "spellLbl").setText(toQString(detail.spellLbl));
 }
 
 void ViewController::setKey() {
@@ -236,7 +236,7 @@ void ViewController::listChanged() {
 void ViewController::saveCKeys() {
     result = exportText(mainDic, def_keys_bundle);
     QWidget* parent = tableView.isNull() ? nullptr : tableView->window();
-    fileDialog_.saveTextFile(parent, qs(custKs), this,
+    fileDialog_.saveTextFile(parent, toQString(custKs), this,
                              [this](std::optional<QString> path) { writeResult(path); });
 }
 
@@ -302,7 +302,7 @@ Alert ViewController::importFrom(const QString& path) {
     reloadData();
     syncKeysPopup();
     listChanged();
-    return importAlert(qs(importSummary(report)), qs(importDetails(report)),
+    return importAlert(toQString(importSummary(report)), toQString(importDetails(report)),
                        QMessageBox::Information);
 }
 
@@ -311,7 +311,7 @@ Alert ViewController::importFrom(const QString& path) {
 void ViewController::showSlotTitle(int slot) {
     const auto index = static_cast<std::size_t>(slot - 1);
     outlet(inventButtons.at(index), "invent" + std::to_string(slot))
-        .setText(qs(slotTitle(slot, inventoryModels.at(index))));
+        .setText(toQString(slotTitle(slot, inventoryModels.at(index))));
 }
 
 void ViewController::invent(std::int64_t slot) {

@@ -6,7 +6,7 @@
 #include <QIcon>
 #include <QSignalSpy>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 int rowOf(const AbilityRecord& record) {
@@ -119,4 +119,4 @@ TEST_F(ClashMarks, AGeneralCommandOnAnOwnersKeyClashesWithIt) {
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

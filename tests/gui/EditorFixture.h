@@ -19,7 +19,7 @@
 #include <optional>
 #include <vector>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 // An expected export from tests/data (its README says how each was made).
 QByteArray golden(const char* name);
@@ -79,4 +79,4 @@ protected:
     std::unique_ptr<WindowControls> controls_;
 };
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

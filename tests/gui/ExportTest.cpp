@@ -19,7 +19,7 @@ static void registerTemplate() {
     Q_INIT_RESOURCE(defaultkeys);
 }
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 class Export : public EditorFixture {
@@ -262,4 +262,4 @@ TEST_F(Export, DialogCancelledByThePlayerWritesNothing) {
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -13,7 +13,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 QString dataFile(const char* name) {
@@ -321,4 +321,4 @@ TEST_F(ImportWindow, TheDialogCancelledByThePlayerChangesNothing) {
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 namespace {
 
@@ -45,4 +45,4 @@ WindowControls::WindowControls(QWidget& window)
       actionReset(control<QAction>(window, "actionReset")),
       actionContact(control<QAction>(window, "actionContact")) {}
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -8,7 +8,7 @@
 #include <QTableView>
 #include <QWidget>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 // The main window's controls, found by their object names as a player's accessibility tools
 // would find them: the tests drive the window through these, and the window keeps its form to
@@ -47,4 +47,4 @@ struct WindowControls {
     QAction* actionContact;
 };
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

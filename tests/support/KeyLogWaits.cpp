@@ -2,7 +2,7 @@
 
 #include "support/KeyLogLine.h"
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 unsigned long waitForReadyWindow(LineProcess& process, std::chrono::milliseconds timeout) {
     const int ready = process.waitForPrefix("ready ", 0, timeout);
@@ -19,4 +19,4 @@ int waitForKey(LineProcess& log, bool press, unsigned keycode, int from,
         from, timeout);
 }
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

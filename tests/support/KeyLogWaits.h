@@ -4,7 +4,7 @@
 
 #include <chrono>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 // The window a key-log client or the remapper's stand-in announced on its "ready <window id>"
 // line, waiting up to `timeout` for it; 0 if the line did not come.
@@ -15,4 +15,4 @@ unsigned long waitForReadyWindow(LineProcess& process, std::chrono::milliseconds
 int waitForKey(LineProcess& log, bool press, unsigned keycode, int from,
                std::chrono::milliseconds timeout = std::chrono::seconds(5));
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -28,17 +28,17 @@ namespace tarnic {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::KeyLogLine;
-using testing::KeymapProbe;
-using testing::kSlotKeypadKeysyms;
-using testing::LineProcess;
-using testing::processUntil;
-using testing::XTestDriver;
-using testing::XvfbSession;
+using test::KeyLogLine;
+using test::KeymapProbe;
+using test::kSlotKeypadKeysyms;
+using test::LineProcess;
+using test::processUntil;
+using test::XTestDriver;
+using test::XvfbSession;
 
-using testing::kNumLockMask;
-using testing::kShiftMask;
-using testing::x;
+using test::kNumLockMask;
+using test::kShiftMask;
+using test::x;
 
 class CountingPoster : public KeyPoster {
 public:
@@ -222,7 +222,7 @@ TEST_F(X11BackendTest, NoFrontmostApplicationWithoutAWindowManager) {
     LineProcess log;
     startKeyLog(log, "war3.exe");
     EXPECT_FALSE(platform->frontmostApplication->bundleIdentifier().has_value());
-    testing::processUntil([] { return false; }, 200ms);
+    test::processUntil([] { return false; }, 200ms);
     EXPECT_FALSE(platform->frontmostWatcher->frontmostIdentifier().has_value());
 }
 

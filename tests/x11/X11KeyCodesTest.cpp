@@ -11,7 +11,7 @@
 namespace tarnic::x11 {
 namespace {
 
-using testing::x;
+using test::x;
 
 TEST(X11KeyCodes, QIsEvdev16AndMacTwelve) {
     EXPECT_EQ(x(KEY_Q), 24u);

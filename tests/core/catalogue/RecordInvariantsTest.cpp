@@ -10,8 +10,8 @@
 namespace tarnic {
 namespace {
 
-using test::countOf;
 using catalogue::markHotkeyValues;
+using test::countOf;
 
 // The records whose deviations from the template rules are kept on purpose.
 const std::set<const AbilityRecord*>& irregularRecords() {
@@ -24,7 +24,7 @@ const std::set<const AbilityRecord*>& irregularRecords() {
 
 std::string label(const AbilityRecord& record) {
     return record.at(name_spell) + " / " +
-           (field(record, name_parent) ? record.at(name_parent) : "");
+           (optionalField(record, name_parent) ? record.at(name_parent) : "");
 }
 
 // Hotkey lines of a block, each as its whole line.
@@ -157,7 +157,7 @@ TEST(RecordInvariants, ResearchTipPlaceholderSurvivesEveryFill) {
 }
 
 TEST(RecordInvariants, MoveHasNoOwnerAndIsReadWithoutFailure) {
-    EXPECT_EQ(field(move_(), name_parent), nullptr);
+    EXPECT_EQ(optionalField(move_(), name_parent), nullptr);
     EXPECT_EQ(move_().count(name_parent), 0u);
     EXPECT_EQ(requiredField(move_(), name_spell), "Move");
 }

@@ -14,8 +14,8 @@
 namespace tarnic {
 namespace {
 
-using testing::generalCommands;
-using testing::makeRecord;
+using test::generalCommands;
+using test::makeRecord;
 
 // The seven owner-less records (Move M, Attack A, Stop S, Hold H, Patrol P, Attack Ground G,
 // Repair R), then the given abilities.

@@ -16,8 +16,8 @@
 namespace tarnic {
 namespace {
 
-using testing::exported;
-using testing::testData;
+using test::exported;
+using test::testData;
 
 // Export, start again from the catalogue, import the file, export again.
 std::string roundTrip(const std::string& file) {
