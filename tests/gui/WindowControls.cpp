@@ -1,5 +1,7 @@
 #include "WindowControls.h"
 
+#include <QApplication>
+
 #include <gtest/gtest.h>
 
 namespace tarnic::test {
@@ -44,5 +46,14 @@ WindowControls::WindowControls(QWidget& window)
       actionGrid(control<QAction>(window, "actionGrid")),
       actionReset(control<QAction>(window, "actionReset")),
       actionContact(control<QAction>(window, "actionContact")) {}
+
+QFileDialog* visibleFileDialog() {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (auto* dialog = qobject_cast<QFileDialog*>(widget); dialog && widget->isVisible()) {
+            return dialog;
+        }
+    }
+    return nullptr;
+}
 
 } // namespace tarnic::test

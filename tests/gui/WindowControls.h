@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableView>
@@ -46,5 +47,8 @@ struct WindowControls {
     QAction* actionReset;
     QAction* actionContact;
 };
+
+// The file dialog the window has open (export or import), or null when none is showing.
+QFileDialog* visibleFileDialog();
 
 } // namespace tarnic::test

@@ -1,6 +1,10 @@
 #include "support/KeyLogWaits.h"
 
 #include "support/KeyLogLine.h"
+#include "support/XTestDriver.h"
+#include "support/XvfbSession.h"
+
+#include <gtest/gtest.h>
 
 namespace tarnic::test {
 
@@ -17,6 +21,18 @@ int waitForKey(LineProcess& log, bool press, unsigned keycode, int from,
             return key && key->is(press, keycode);
         },
         from, timeout);
+}
+
+unsigned long startKeyLog(LineProcess& log, const QString& program, const QStringList& arguments,
+                          const XvfbSession& server, XTestDriver& driver) {
+    using namespace std::chrono_literals;
+    EXPECT_TRUE(log.start(program, arguments, server.environment()));
+    const unsigned long window = waitForReadyWindow(log, 10s);
+    EXPECT_NE(window, 0u) << "key log did not map its window";
+    if (window != 0) {
+        EXPECT_TRUE(driver.focus(window, 5s));
+    }
+    return window;
 }
 
 } // namespace tarnic::test

@@ -73,13 +73,7 @@ protected:
 
     // Starts the key-log client and gives it the focus; its window id.
     unsigned long startKeyLog(LineProcess& log, const QString& windowClass) {
-        EXPECT_TRUE(log.start(TARNIC_KEYLOG_PATH, {"--class", windowClass}, server.environment()));
-        const unsigned long window = waitForReadyWindow(log, 10s);
-        EXPECT_NE(window, 0u) << "key log did not map its window";
-        if (window != 0) {
-            EXPECT_TRUE(driver.focus(window, 5s));
-        }
-        return window;
+        return test::startKeyLog(log, TARNIC_KEYLOG_PATH, {"--class", windowClass}, server, driver);
     }
 
     XvfbSession server{false};

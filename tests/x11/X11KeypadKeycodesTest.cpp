@@ -138,13 +138,7 @@ protected:
     }
 
     unsigned long startKeyLog(LineProcess& log) {
-        EXPECT_TRUE(log.start(TARNIC_KEYLOG_PATH, {}, server.environment()));
-        const unsigned long window = waitForReadyWindow(log, 10s);
-        EXPECT_NE(window, 0u) << "key log did not map its window";
-        if (window != 0) {
-            EXPECT_TRUE(driver.focus(window, 5s));
-        }
-        return window;
+        return test::startKeyLog(log, TARNIC_KEYLOG_PATH, {}, server, driver);
     }
 
     XvfbSession server{false};
