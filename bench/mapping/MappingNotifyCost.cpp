@@ -34,8 +34,8 @@
 namespace {
 
 using namespace std::chrono_literals;
-using tarnic::testing::LineProcess;
-using tarnic::testing::XTestDriver;
+using tarnic::test::LineProcess;
+using tarnic::test::XTestDriver;
 
 constexpr unsigned kZ = 52; // bound to slot 1
 constexpr unsigned kX = 53; // bound to nothing

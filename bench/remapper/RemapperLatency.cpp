@@ -52,11 +52,11 @@ namespace {
 
 using namespace std::chrono_literals;
 using tarnic::bench::PressRecorder;
-using tarnic::testing::KeyLogLine;
-using tarnic::testing::KeymapProbe;
-using tarnic::testing::LineProcess;
-using tarnic::testing::XTestDriver;
-using tarnic::testing::XvfbSession;
+using tarnic::test::KeyLogLine;
+using tarnic::test::KeymapProbe;
+using tarnic::test::LineProcess;
+using tarnic::test::XTestDriver;
+using tarnic::test::XvfbSession;
 
 constexpr unsigned kRemapperTrigger = 24; // Q, slot 1 of the application (macOS code 12)
 constexpr unsigned kFloorTrigger = 25;    // W

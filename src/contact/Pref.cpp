@@ -3,6 +3,7 @@
 #include "ui_Pref.h"
 
 #include "core/fatal/Fatal.h"
+#include "shell/SiteAddress.h"
 
 #include <QDesktopServices>
 #include <QPushButton>
@@ -11,11 +12,7 @@ namespace tarnic {
 namespace {
 
 QString siteRoot() {
-    QString base = QStringLiteral(TARNIC_SITE_URL).trimmed();
-    while (base.endsWith(QLatin1Char('/'))) {
-        base.chop(1);
-    }
-    return base + QLatin1Char('/');
+    return withoutTrailingSlashes(siteBaseUrl()) + QLatin1Char('/');
 }
 
 } // namespace

@@ -94,7 +94,7 @@ QVariant AbilityTableModel::clashMark(int row, int role) const {
     QStringList names;
     for (std::size_t partner : clashPartners_[at]) {
         if (partner < list_.size()) {
-            const std::string* name = field(list_[partner], name_spell);
+            const std::string* name = optionalField(list_[partner], name_spell);
             names << (name != nullptr ? QString::fromStdString(*name) : QString());
         }
     }
@@ -130,7 +130,8 @@ QVariant AbilityTableModel::data(const QModelIndex& index, int role) const {
     if (role != Qt::DisplayRole && !(role == Qt::DecorationRole && column.isName)) {
         return {};
     }
-    const std::string* value = field(list_[static_cast<std::size_t>(index.row())], column.key);
+    const std::string* value =
+        optionalField(list_[static_cast<std::size_t>(index.row())], column.key);
     if (value == nullptr) {
         return {};
     }
@@ -143,7 +144,7 @@ QPixmap AbilityTableModel::thumbnail(const QString& name) const {
     // build time, so that the first rows cost little to show.
     auto it = thumbnails_.find(name);
     if (it == thumbnails_.end()) {
-        it = thumbnails_.insert(name, tarnic::thumbnail(name));
+        it = thumbnails_.insert(name, tarnic::thumbnailNamed(name));
     }
     return it.value();
 }

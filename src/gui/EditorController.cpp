@@ -21,8 +21,8 @@ namespace tarnic {
 
 namespace {
 
-QPixmap pictureNamed(const std::string& name) {
-    return picture(qs(name));
+QPixmap pictureFor(const std::string& name) {
+    return pictureNamed(toQString(name));
 }
 
 } // namespace
@@ -37,7 +37,7 @@ EditorController::~EditorController() = default;
 void EditorController::viewDidLoad() {
     QComboBox& keys = outlet(outlets_.keysPopup, "keysPopup");
     for (std::string_view title : keyboardKeys) {
-        keys.addItem(qs(title));
+        keys.addItem(toQString(title));
     }
 
     // The controller is the table's data source and delegate. The columns belong to the
@@ -91,12 +91,12 @@ void EditorController::syncKeysPopup() {
 
 void EditorController::tableViewSelectionDidChange() {
     const SelectionDetail detail = selectionDetail(mainDic_[selectedIndex()]);
-    outlet(outlets_.spellImage, "spellImage").setPixmap(pictureNamed(detail.spellImage));
-    outlet(outlets_.parentImage, "parentImage").setPixmap(pictureNamed(detail.parentImage));
-    outlet(outlets_.parentLbl, "parentLbl").setText(qs(detail.parentLbl));
+    outlet(outlets_.spellImage, "spellImage").setPixmap(pictureFor(detail.spellImage));
+    outlet(outlets_.parentImage, "parentImage").setPixmap(pictureFor(detail.parentImage));
+    outlet(outlets_.parentLbl, "parentLbl").setText(toQString(detail.parentLbl));
     selectItemWithTitle(outlet(outlets_.keysPopup, "keysPopup"), detail.popupTitle);
-    outlet(outlets_.defHotkey, "defHotkey").setText(qs(detail.defHotkey));
-    outlet(outlets_.spellLbl, "spellLbl").setText(qs(detail.spellLbl));
+    outlet(outlets_.defHotkey, "defHotkey").setText(toQString(detail.defHotkey));
+    outlet(outlets_.spellLbl, "spellLbl").setText(toQString(detail.spellLbl));
 }
 
 void EditorController::setKey() {

@@ -43,7 +43,7 @@ void FileExchangeController::viewDidLoad() {
 
 void FileExchangeController::saveCKeys() {
     result_ = exportText(editor_.mainDic(), def_keys_bundle_);
-    fileDialog_.saveTextFile(window_, qs(custKs), this,
+    fileDialog_.saveTextFile(window_, toQString(custKs), this,
                              [this](std::optional<QString> path) { writeResult(path); });
 }
 
@@ -100,7 +100,7 @@ Alert FileExchangeController::importFrom(const QString& path) {
                 .arg(name),
             unchanged, QMessageBox::Warning);
     }
-    return importAlert(qs(importSummary(report)), qs(importDetails(report)),
+    return importAlert(toQString(importSummary(report)), toQString(importDetails(report)),
                        QMessageBox::Information);
 }
 

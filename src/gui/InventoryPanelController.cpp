@@ -27,12 +27,12 @@ void InventoryPanelController::loadBindings() {
 
 void InventoryPanelController::viewDidLoad() {
     QComboBox& inventory = outlet(outlets_.inventPopup, "inventPopup");
-    inventory.addItem(qs(select));
+    inventory.addItem(toQString(select));
     for (std::string_view title : keyboardKeysNum) {
-        inventory.addItem(qs(title));
+        inventory.addItem(toQString(title));
     }
     for (std::string_view title : keyboardKeys) {
-        inventory.addItem(qs(title));
+        inventory.addItem(toQString(title));
     }
 
     // The slot buttons show the restored bindings, and the options what was stored (off on a
@@ -50,13 +50,13 @@ void InventoryPanelController::viewDidLoad() {
 
 void InventoryPanelController::showInventoryStatus(const AccessibilityTrust& trust) {
     outlet(outlets_.inventStatusLbl, "inventStatusLbl")
-        .setText(qs(inventoryStatusText(trust.isProcessTrusted(), trust.untrustedReason())));
+        .setText(toQString(inventoryStatusText(trust.isProcessTrusted(), trust.untrustedReason())));
 }
 
 void InventoryPanelController::showSlotTitle(int slot) {
     const auto index = static_cast<std::size_t>(slot - 1);
     outlet(outlets_.inventButtons.at(index), "invent" + std::to_string(slot))
-        .setText(qs(slotTitle(slot, bindings_.of(slot))));
+        .setText(toQString(slotTitle(slot, bindings_.of(slot))));
 }
 
 void InventoryPanelController::invent(std::int64_t slot) {

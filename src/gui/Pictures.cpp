@@ -68,12 +68,12 @@ const ThumbnailSheet& thumbnailSheet() {
 
 } // namespace
 
-QPixmap picture(const QString& name) {
+QPixmap pictureNamed(const QString& name) {
     initGuiResources();
     return cachedPng(QStringLiteral(":/images/") + name + QStringLiteral(".png"));
 }
 
-QPixmap thumbnail(const QString& name) {
+QPixmap thumbnailNamed(const QString& name) {
     const ThumbnailSheet& sheet = thumbnailSheet();
     const auto found = sheet.offsets.constFind(name);
     if (found == sheet.offsets.constEnd() || found.value() + kThumbnailBytes > sheet.size) {

@@ -2,12 +2,12 @@
 
 namespace tarnic {
 
-QString qs(std::string_view text) {
+QString toQString(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 void selectItemWithTitle(QComboBox& popup, std::string_view title) {
-    popup.setCurrentIndex(popup.findText(qs(title)));
+    popup.setCurrentIndex(popup.findText(toQString(title)));
 }
 
 std::optional<std::string> selectedTitle(const QComboBox& popup) {

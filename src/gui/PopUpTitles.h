@@ -10,7 +10,7 @@
 namespace tarnic {
 
 // UTF-8 text as a QString.
-QString qs(std::string_view text);
+QString toQString(std::string_view text);
 
 // "Select the item with title T": the first item with exactly that title, or none.
 void selectItemWithTitle(QComboBox& popup, std::string_view title);

@@ -1,16 +1,13 @@
 #include "shell/VersionGate.h"
 
 #include "shell/BlockingHttpGet.h"
+#include "shell/SiteAddress.h"
 #include "shell/VersionSupport.h"
 
 namespace tarnic {
 
 QUrl versionSupportUrl(const QString& siteUrl) {
-    QString base = siteUrl.trimmed();
-    while (base.endsWith(QLatin1Char('/'))) {
-        base.chop(1);
-    }
-    QUrl url(base + QStringLiteral("/tn11.plist"), QUrl::StrictMode);
+    QUrl url(withoutTrailingSlashes(siteUrl) + QStringLiteral("/tn11.plist"), QUrl::StrictMode);
     if (!url.isValid() || url.scheme().isEmpty() || url.host().isEmpty()) {
         return {};
     }

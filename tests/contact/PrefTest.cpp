@@ -1,6 +1,7 @@
 #include "contact/Pref.h"
 
 #include "contact/ContactPanel.h"
+#include "shell/SiteAddress.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -92,7 +93,7 @@ TEST(Pref, EachWebPressOpensTheHomePageOnce) {
     ASSERT_EQ(web.opened.size(), 2);
     EXPECT_TRUE(mailto.opened.isEmpty());
 
-    QString expected = TARNIC_SITE_URL;
+    QString expected = siteBaseUrl();
     while (expected.endsWith('/')) {
         expected.chop(1);
     }

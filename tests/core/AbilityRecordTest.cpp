@@ -27,9 +27,9 @@ TEST(AbilityRecord, KeyConstantsHaveTheirStoredSpelling) {
 TEST(AbilityRecord, MissingOwnerIsNotAnEmptyOwner) {
     const AbilityRecord move{{name_spell, "Move"}};
     const AbilityRecord nameless{{name_spell, "X"}, {name_parent, ""}};
-    EXPECT_EQ(field(move, name_parent), nullptr);
-    ASSERT_NE(field(nameless, name_parent), nullptr);
-    EXPECT_EQ(*field(nameless, name_parent), "");
+    EXPECT_EQ(optionalField(move, name_parent), nullptr);
+    ASSERT_NE(optionalField(nameless, name_parent), nullptr);
+    EXPECT_EQ(*optionalField(nameless, name_parent), "");
 }
 
 TEST(AbilityRecord, FillPutsTheKeyAtEveryMarkerOfEverySection) {

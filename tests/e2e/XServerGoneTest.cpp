@@ -26,11 +26,11 @@ namespace tarnic {
 namespace {
 
 using namespace std::chrono_literals;
+using test::LineProcess;
 using test::LoopbackHttpServer;
-using testing::LineProcess;
-using testing::processUntil;
-using testing::XTestDriver;
-using testing::XvfbSession;
+using test::processUntil;
+using test::XTestDriver;
+using test::XvfbSession;
 
 // What a file on disk is: its bytes, its modification time to the nanosecond and its inode (a
 // file written again through a temporary and a rename gets a new one).

@@ -12,7 +12,7 @@
 
 #include <gtest/gtest.h>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 const QStringList kKeys = {"name", "name parent", "def hotkey", "new hotkey"};
@@ -69,15 +69,16 @@ TEST(AbilityTableModel, ThumbnailsAreThePicturesScaledSmoothly) {
                 .scaled(AbilityTableModel::kThumbnail, AbilityTableModel::kThumbnail,
                         Qt::KeepAspectRatio, Qt::SmoothTransformation)
                 .toImage();
-        const QImage shown = thumbnail(name).toImage();
+        const QImage shown = thumbnailNamed(name).toImage();
         ASSERT_FALSE(expected.isNull()) << file.toStdString();
         EXPECT_EQ(shown.format(), expected.format()) << file.toStdString();
         EXPECT_EQ(shown, expected) << file.toStdString();
-        EXPECT_EQ(picture(name).toImage(), QPixmap(QStringLiteral(":/images/") + file).toImage())
+        EXPECT_EQ(pictureNamed(name).toImage(),
+                  QPixmap(QStringLiteral(":/images/") + file).toImage())
             << file.toStdString();
     }
-    EXPECT_TRUE(thumbnail(QStringLiteral("Nothing Drawn For This")).isNull());
-    EXPECT_TRUE(picture(QStringLiteral("Nothing Drawn For This")).isNull());
+    EXPECT_TRUE(thumbnailNamed(QStringLiteral("Nothing Drawn For This")).isNull());
+    EXPECT_TRUE(pictureNamed(QStringLiteral("Nothing Drawn For This")).isNull());
 }
 
 TEST(AbilityTableModel, HeaderTitlesFollowTheColumns) {
@@ -155,4 +156,4 @@ TEST(AbilityTableModel, WithoutColumnsThereIsNothingToShow) {
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

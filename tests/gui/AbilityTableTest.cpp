@@ -8,7 +8,7 @@
 #include <QHeaderView>
 #include <QTest>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 // Pictures compared pixel by pixel, whatever the format they were kept in.
@@ -267,4 +267,4 @@ TEST_F(AbilityTableDeathTest, RecordWithoutNameEndsTheProgramWhenSelected) {
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -63,4 +63,4 @@ TEST(AfterFirstPaint, DroppedOnceTheWindowHasClosed) {
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -1,12 +1,12 @@
 #include "EditorFixture.h"
 
 #include "core/catalogue/Catalogue.h"
-#include "core/catalogue/CatalogueRecords.h"
+#include "support/catalogue/CatalogueRecords.h"
 
 #include <QIcon>
 #include <QSignalSpy>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 int rowOf(const AbilityRecord& record) {
@@ -146,4 +146,4 @@ TEST_F(ClashMarks, AGeneralCommandOnAnOwnersKeyClashesWithIt) {
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -8,7 +8,7 @@
 #include <QFile>
 #include <QTest>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 QByteArray golden(const char* name) {
     QFile file(QStringLiteral(TARNIC_SOURCE_DIR "/tests/data/") + QLatin1String(name));
@@ -124,4 +124,4 @@ void EditorFixture::choose(QComboBox& popup, const QString& title) {
     ASSERT_EQ(popup.currentIndex(), target);
 }
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

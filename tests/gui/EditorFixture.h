@@ -18,7 +18,7 @@
 #include <optional>
 #include <vector>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 // An expected export from tests/data (its README says how each was made).
 QByteArray golden(const char* name);
@@ -80,4 +80,4 @@ protected:
     std::unique_ptr<WindowControls> controls_;
 };
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -19,7 +19,7 @@ static void registerTemplate() {
     Q_INIT_RESOURCE(defaultkeys);
 }
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 class EditorState : public EditorFixture {};
@@ -231,4 +231,4 @@ TEST_F(EditorStateDeathTest, OutletWhoseControlIsGoneEndsTheProgramAtItsUse) {
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -19,7 +19,7 @@ static void registerTemplate() {
     Q_INIT_RESOURCE(defaultkeys);
 }
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 class Export : public EditorFixture {
@@ -216,13 +216,7 @@ TEST_F(Export, ShortcutExportsToo) {
 TEST_F(Export, DialogProposesCustomKeysAsATextFileAndWritesWhereTheUserSays) {
     QSignalSpy finished(&exchange(), &FileExchangeController::exportFinished);
     click(*ui().exportButton);
-    QFileDialog* dialog = nullptr;
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (auto* candidate = qobject_cast<QFileDialog*>(widget);
-            candidate && widget->isVisible()) {
-            dialog = candidate;
-        }
-    }
+    QFileDialog* dialog = visibleFileDialog();
     ASSERT_NE(dialog, nullptr);
     EXPECT_EQ(dialog->acceptMode(), QFileDialog::AcceptSave);
     EXPECT_EQ(dialog->defaultSuffix(), "txt");
@@ -247,13 +241,7 @@ TEST_F(Export, DialogProposesCustomKeysAsATextFileAndWritesWhereTheUserSays) {
 TEST_F(Export, DialogCancelledByThePlayerWritesNothing) {
     QSignalSpy finished(&exchange(), &FileExchangeController::exportFinished);
     click(*ui().exportButton);
-    QFileDialog* dialog = nullptr;
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (auto* candidate = qobject_cast<QFileDialog*>(widget);
-            candidate && widget->isVisible()) {
-            dialog = candidate;
-        }
-    }
+    QFileDialog* dialog = visibleFileDialog();
     ASSERT_NE(dialog, nullptr);
     dialog->setDirectory(dir_.path());
     QTest::keyClick(dialog, Qt::Key_Escape);
@@ -262,4 +250,4 @@ TEST_F(Export, DialogCancelledByThePlayerWritesNothing) {
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

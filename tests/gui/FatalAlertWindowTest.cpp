@@ -5,7 +5,7 @@
 
 #include <QVariantList>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 // The ends the program must come to, started as the program is: standard error gets the line
@@ -53,4 +53,4 @@ TEST_F(FatalAlertWindowDeathTest, AnEmptyListEndsAtTheHotkeyPopUpWithTheAlert) {
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

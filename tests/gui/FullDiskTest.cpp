@@ -15,7 +15,7 @@
 #include <sys/mount.h>
 #include <unistd.h>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 // A small filesystem of the test program's own: a tmpfs mounted in a mount namespace of this
@@ -156,4 +156,4 @@ TEST_F(FullDisk, GridLayoutKeepsTheMarkAndWarnsUntilAWriteWorks) {
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -3,7 +3,7 @@
 #include "core/catalogue/Catalogue.h"
 #include "core/editor/RecordFactory.h"
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 class GridLayoutWindow : public EditorFixture {
@@ -143,4 +143,4 @@ TEST_F(GridLayoutWindow, RunningTwiceGivesTheSameList) {
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

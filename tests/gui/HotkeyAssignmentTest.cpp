@@ -3,7 +3,7 @@
 #include "core/catalogue/Catalogue.h"
 #include "core/editor/RecordFactory.h"
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 class HotkeyAssignment : public EditorFixture {
@@ -131,4 +131,4 @@ TEST_F(HotkeyAssignment, ResetOfAShorterStoredListBringsBackTheWholeCatalogue) {
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -13,20 +13,11 @@
 #include <QSignalSpy>
 #include <QTest>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 QString dataFile(const char* name) {
     return QStringLiteral(TARNIC_SOURCE_DIR "/tests/data/") + QLatin1String(name);
-}
-
-QFileDialog* openFileDialog() {
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (auto* dialog = qobject_cast<QFileDialog*>(widget); dialog && widget->isVisible()) {
-            return dialog;
-        }
-    }
-    return nullptr;
 }
 
 class ImportWindow : public EditorFixture {
@@ -292,7 +283,7 @@ TEST_F(ImportWindow, TheDialogOpensAnExistingTextFileWhereTheUserSays) {
     writeFile(file, bytesOf(dataFile("export-hand-set.txt")));
     QSignalSpy finished(&exchange(), &FileExchangeController::importFinished);
     ui().actionImport->trigger();
-    QFileDialog* dialog = openFileDialog();
+    QFileDialog* dialog = visibleFileDialog();
     ASSERT_NE(dialog, nullptr);
     EXPECT_EQ(dialog->acceptMode(), QFileDialog::AcceptOpen);
     EXPECT_EQ(dialog->fileMode(), QFileDialog::ExistingFile);
@@ -312,7 +303,7 @@ TEST_F(ImportWindow, TheDialogOpensAnExistingTextFileWhereTheUserSays) {
 TEST_F(ImportWindow, TheDialogCancelledByThePlayerChangesNothing) {
     QSignalSpy finished(&exchange(), &FileExchangeController::importFinished);
     ui().actionImport->trigger();
-    QFileDialog* dialog = openFileDialog();
+    QFileDialog* dialog = visibleFileDialog();
     ASSERT_NE(dialog, nullptr);
     QTest::keyClick(dialog, Qt::Key_Escape);
     ASSERT_TRUE(!finished.isEmpty() || finished.wait(5000));
@@ -321,4 +312,4 @@ TEST_F(ImportWindow, TheDialogCancelledByThePlayerChangesNothing) {
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -16,7 +16,7 @@
 #include <string>
 #include <vector>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 using Posts = std::vector<std::string>;
@@ -208,4 +208,4 @@ TEST_F(InventoryOptionsPanel, TheGameAlreadyInFrontAtStartCounts) {
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -4,7 +4,7 @@
 #include <QComboBox>
 #include <QPushButton>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 class InventoryPanel : public EditorFixture {
@@ -212,4 +212,4 @@ TEST_F(InventoryPanelDeathTest, ShortStoredBindingEndsTheProgramWhenShown) {
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

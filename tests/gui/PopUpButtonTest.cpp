@@ -50,8 +50,8 @@ TEST_F(PopUpButtonAlone, WheelChangesNothingAndChoosesNothing) {
     QSignalSpy chosen(popup_, &PopUpButton::chosen);
     QSignalSpy activated(popup_, &QComboBox::activated);
     QSignalSpy changed(popup_, &QComboBox::currentIndexChanged);
-    EXPECT_EQ(testing::turnWheelOver(*popup_, 2), 2);
-    EXPECT_EQ(testing::turnWheelOver(*popup_, -5), 5);
+    EXPECT_EQ(test::turnWheelOver(*popup_, 2), 2);
+    EXPECT_EQ(test::turnWheelOver(*popup_, -5), 5);
     EXPECT_EQ(popup_->currentIndex(), 2);
     EXPECT_FALSE(listShown());
     EXPECT_TRUE(chosen.isEmpty());
@@ -74,7 +74,7 @@ TEST_F(PopUpButtonAlone, WheelScrollsWhatIsUnderThePopUp) {
     QSignalSpy chosen(inner, &PopUpButton::chosen);
     ASSERT_EQ(area.verticalScrollBar()->value(), 0);
 
-    EXPECT_EQ(testing::turnWheelOver(*inner, -1), 1);
+    EXPECT_EQ(test::turnWheelOver(*inner, -1), 1);
     EXPECT_GT(area.verticalScrollBar()->value(), 0);
     EXPECT_EQ(inner->currentIndex(), 0);
     EXPECT_TRUE(chosen.isEmpty());

@@ -8,7 +8,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 // The pop-ups as a player meets them: a wheel turned over them or keys typed on them while they
@@ -309,4 +309,4 @@ TEST_F(PopUpChoice, AChoiceFromTheOpenInventoryListBindsOnceAndGivesTheFocusBack
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -4,7 +4,7 @@
 #include <QEvent>
 #include <QTimer>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 namespace {
 
@@ -41,4 +41,4 @@ bool quitsAfter(const std::function<void()>& action) {
     return filter.quitAsked;
 }
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

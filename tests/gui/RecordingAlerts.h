@@ -4,7 +4,7 @@
 
 #include <vector>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 // Takes the window's alerts instead of a person: each is kept, in order, and dismissed at once.
 class RecordingAlerts : public AlertPresenter {
@@ -14,4 +14,4 @@ public:
     std::vector<Alert> shown;
 };
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

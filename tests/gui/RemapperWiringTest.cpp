@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 using Posts = std::vector<std::string>;
@@ -108,4 +108,4 @@ TEST_F(RemapperWiring, TheProgramTicksEveryTwoSeconds) {
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -11,7 +11,7 @@
 
 #include <sys/stat.h>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 bool setMode(const QString& path, mode_t mode) {
@@ -163,4 +163,4 @@ TEST_F(StoreMessages, AReadableStoreIsNotMentioned) {
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

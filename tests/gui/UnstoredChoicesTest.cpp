@@ -5,7 +5,7 @@
 #include <QFile>
 #include <QSignalSpy>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 // The title marks a working list that differs from the stored one: keys set by hand live in
@@ -88,4 +88,4 @@ TEST_F(UnstoredChoices, TheMarkedChoicesAreGoneAfterTheNextStart) {
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -8,7 +8,7 @@
 #include <QWidget>
 #include <QWindow>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 class WheelCounter : public QObject {
@@ -53,4 +53,4 @@ int turnWheelOver(QWidget& widget, int notches) {
     return counter.count;
 }
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -2,7 +2,7 @@
 
 class QWidget;
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 // Turns the mouse wheel `notches` notches (positive away from the user, negative towards)
 // with the pointer over the middle of `widget`. Each notch goes to the widget's window, which
@@ -11,4 +11,4 @@ namespace tarnic::testing {
 // `widget` itself.
 int turnWheelOver(QWidget& widget, int notches);
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -1,8 +1,10 @@
 #include "WindowControls.h"
 
+#include <QApplication>
+
 #include <gtest/gtest.h>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 namespace {
 
@@ -45,4 +47,13 @@ WindowControls::WindowControls(QWidget& window)
       actionReset(control<QAction>(window, "actionReset")),
       actionContact(control<QAction>(window, "actionContact")) {}
 
-} // namespace tarnic::testing
+QFileDialog* visibleFileDialog() {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (auto* dialog = qobject_cast<QFileDialog*>(widget); dialog && widget->isVisible()) {
+            return dialog;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace tarnic::test

@@ -3,12 +3,13 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableView>
 #include <QWidget>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 // The main window's controls, found by their object names as a player's accessibility tools
 // would find them: the tests drive the window through these, and the window keeps its form to
@@ -47,4 +48,7 @@ struct WindowControls {
     QAction* actionContact;
 };
 
-} // namespace tarnic::testing
+// The file dialog the window has open (export or import), or null when none is showing.
+QFileDialog* visibleFileDialog();
+
+} // namespace tarnic::test

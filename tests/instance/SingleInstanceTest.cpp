@@ -23,8 +23,8 @@ namespace tarnic {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::LineProcess;
-using testing::processUntil;
+using test::LineProcess;
+using test::processUntil;
 
 const QString kDisplay = QStringLiteral(":42");
 

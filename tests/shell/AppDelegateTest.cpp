@@ -275,17 +275,5 @@ TEST_F(AppDelegateTest, SiteTextThatIsNoUrlStopsTheCheckSilently) {
     EXPECT_EQ(runEventLoopOnce(), kNobodyQuit);
 }
 
-TEST_F(AppDelegateTest, WillTerminateLeavesTheApplicationAlone) {
-    FakeTrust trust(true, log);
-    AppDelegate delegate(trust, server.baseUrl(), alerts);
-
-    ::testing::internal::CaptureStdout();
-    delegate.applicationWillTerminate();
-    EXPECT_EQ(::testing::internal::GetCapturedStdout(), "");
-    EXPECT_TRUE(log.empty());
-    EXPECT_TRUE(server.requestedPaths().isEmpty());
-    EXPECT_EQ(runEventLoopOnce(), kNobodyQuit);
-}
-
 } // namespace
 } // namespace tarnic

@@ -17,7 +17,7 @@
 #include <future>
 #include <thread>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 namespace {
 
 // Under the offscreen platform nobody sees a window: the program shows no alert of its own.
@@ -151,4 +151,4 @@ TEST_F(FatalAlertsDeathTest, TheProgramsMessageBoxShowsTheLineThenTheProgramEnds
 }
 
 } // namespace
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -7,7 +7,7 @@
 
 #include <cstdio>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 // Writes each alert to standard error, with the thread it was shown on, and dismisses it at once:
 // a death test's parent reads what the dying child showed there.
@@ -21,4 +21,4 @@ public:
     }
 };
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -39,10 +39,18 @@ TEST(VersionSupportUrl, IsTheFileDirectlyUnderTheSiteRoot) {
               "http://127.0.0.1:8765/tn11.plist");
     EXPECT_EQ(versionSupportUrl("http://tarnic.example/").toString(),
               "http://tarnic.example/tn11.plist");
+    EXPECT_EQ(versionSupportUrl(" http://tarnic.example// ").toString(),
+              "http://tarnic.example/tn11.plist");
 }
 
-TEST(VersionSupportUrl, BuiltInSiteIsTheOneTheBuildNames) {
-    EXPECT_EQ(siteBaseUrl(), TARNIC_SITE_URL);
+TEST(SiteAddress, LosesSurroundingBlanksAndTrailingSlashesOnly) {
+    EXPECT_EQ(withoutTrailingSlashes(" http://tarnic.example/a/// "), "http://tarnic.example/a");
+    EXPECT_EQ(withoutTrailingSlashes("http://tarnic.example"), "http://tarnic.example");
+    EXPECT_EQ(withoutTrailingSlashes("///"), "");
+}
+
+TEST(VersionSupportUrl, BuiltInSiteIsAPlainHttpAddress) {
+    EXPECT_TRUE(versionSupportUrl(siteBaseUrl()).isValid()) << siteBaseUrl().toStdString();
     EXPECT_EQ(versionSupportUrl(siteBaseUrl()).path(), "/tn11.plist");
     EXPECT_EQ(versionSupportUrl(siteBaseUrl()).scheme(), "http");
 }

@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 std::optional<KeyLogLine> KeyLogLine::parse(const QString& line) {
     const QStringList parts = line.split(' ');
@@ -18,4 +18,4 @@ std::optional<KeyLogLine> KeyLogLine::parse(const QString& line) {
     return key;
 }
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

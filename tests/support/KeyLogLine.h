@@ -4,7 +4,7 @@
 
 #include <optional>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 // One key line of the key-log client: "press|release <keycode> <state> <server ms> <mono ns>".
 struct KeyLogLine {
@@ -18,4 +18,4 @@ struct KeyLogLine {
     bool is(bool isPress, unsigned code) const { return press == isPress && keycode == code; }
 };
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

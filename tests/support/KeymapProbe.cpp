@@ -4,7 +4,7 @@
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 KeymapProbe::KeymapProbe(const QString& display)
     : display_(XOpenDisplay(display.toLocal8Bit().constData())) {
@@ -124,4 +124,4 @@ int KeymapProbe::lockedModifierChanges() {
     return lockChanges_;
 }
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

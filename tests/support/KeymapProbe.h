@@ -8,7 +8,7 @@
 
 struct _XDisplay;
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 // The keypad keysyms of the inventory slots, in slot order (keypad 7, 8, 4, 5, 1, 2), as X
 // numbers them; written out here so the tests check the backend rather than repeat it.
@@ -53,4 +53,4 @@ private:
     int lockChanges_ = 0;
 };
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 LineProcess::~LineProcess() {
     stop();
@@ -114,4 +114,4 @@ QString LineProcess::transcript() {
     return lines().join('\n');
 }
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

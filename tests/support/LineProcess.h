@@ -7,7 +7,7 @@
 #include <chrono>
 #include <functional>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 // A child process whose standard output is read line by line, with bounded waits for the line
 // the test expects. Its standard error goes to the test's, or is kept for the test to read.
@@ -56,4 +56,4 @@ private:
     QByteArray errors_;
 };
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

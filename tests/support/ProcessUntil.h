@@ -6,7 +6,7 @@
 
 #include <chrono>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 // Runs the event loop until `done` holds or the time is up; true if it holds.
 template <typename Predicate> bool processUntil(Predicate done, std::chrono::milliseconds timeout) {
@@ -26,4 +26,4 @@ template <typename Predicate> bool processUntil(Predicate done, std::chrono::mil
     return done();
 }
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

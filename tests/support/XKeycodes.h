@@ -1,6 +1,6 @@
 #pragma once
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 // The X keycode of a Linux evdev key code (KEY_Q and so on from linux/input-event-codes.h), as
 // the X server numbers the keys: evdev + 8. Written out here, apart from the backend's table,
@@ -13,4 +13,4 @@ constexpr unsigned x(unsigned evdevCode) {
 constexpr unsigned kShiftMask = 1;
 constexpr unsigned kNumLockMask = 16; // Mod2
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

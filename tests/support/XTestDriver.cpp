@@ -10,7 +10,7 @@
 
 #include <thread>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 XTestDriver::XTestDriver(const QString& display)
     : display_(XOpenDisplay(display.toLocal8Bit().constData())) {}
@@ -165,4 +165,4 @@ void XTestDriver::setNumLock(bool on) {
     XSync(display_, False);
 }
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

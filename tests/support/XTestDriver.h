@@ -6,7 +6,7 @@
 
 struct _XDisplay;
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 // The test's own connection: types with XTest, as a keyboard would, and moves the focus.
 class XTestDriver {
@@ -40,4 +40,4 @@ private:
     _XDisplay* display_;
 };
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -11,7 +11,7 @@
 #include <poll.h>
 #include <thread>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 namespace {
 
@@ -161,4 +161,4 @@ bool XvfbSession::startWindowManager() {
     return running;
 }
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -4,7 +4,7 @@
 #include <QProcessEnvironment>
 #include <QString>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 // A private X server for one test: Xvfb on a display number it picks itself (-displayfd), with
 // -noreset so that the keyboard state (Num Lock) survives its clients, and optionally openbox,
@@ -39,4 +39,4 @@ private:
     QString error_;
 };
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -27,12 +27,12 @@ namespace tarnic {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::KeymapProbe;
-using testing::LineProcess;
-using testing::XTestDriver;
-using testing::XvfbSession;
+using test::KeymapProbe;
+using test::LineProcess;
+using test::XTestDriver;
+using test::XvfbSession;
 
-using testing::x;
+using test::x;
 
 constexpr unsigned kVkShift = 0x10;
 constexpr unsigned kVkNumLock = 0x90;

@@ -29,17 +29,17 @@ namespace tarnic {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::KeyLogLine;
-using testing::KeymapProbe;
-using testing::kSlotKeypadKeysyms;
-using testing::LineProcess;
-using testing::processUntil;
-using testing::XTestDriver;
-using testing::XvfbSession;
+using test::KeyLogLine;
+using test::KeymapProbe;
+using test::kSlotKeypadKeysyms;
+using test::LineProcess;
+using test::processUntil;
+using test::XTestDriver;
+using test::XvfbSession;
 
-using testing::kNumLockMask;
-using testing::kShiftMask;
-using testing::x;
+using test::kNumLockMask;
+using test::kShiftMask;
+using test::x;
 
 class CountingPoster : public KeyPoster {
 public:
@@ -74,13 +74,7 @@ protected:
 
     // Starts the key-log client and gives it the focus; its window id.
     unsigned long startKeyLog(LineProcess& log, const QString& windowClass) {
-        EXPECT_TRUE(log.start(TARNIC_KEYLOG_PATH, {"--class", windowClass}, server.environment()));
-        const unsigned long window = waitForReadyWindow(log, 10s);
-        EXPECT_NE(window, 0u) << "key log did not map its window";
-        if (window != 0) {
-            EXPECT_TRUE(driver.focus(window, 5s));
-        }
-        return window;
+        return test::startKeyLog(log, TARNIC_KEYLOG_PATH, {"--class", windowClass}, server, driver);
     }
 
     // What the key handlers wrote, read under the lock they run under (on the key thread).
@@ -233,7 +227,7 @@ TEST_F(X11BackendTest, NoFrontmostApplicationWithoutAWindowManager) {
     LineProcess log;
     startKeyLog(log, "war3.exe");
     EXPECT_FALSE(platform->frontmostApplication->bundleIdentifier().has_value());
-    testing::processUntil([] { return false; }, 200ms);
+    test::processUntil([] { return false; }, 200ms);
     EXPECT_FALSE(platform->frontmostWatcher->frontmostIdentifier().has_value());
 }
 

@@ -21,15 +21,15 @@ namespace tarnic {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::KeyLogLine;
-using testing::KeymapProbe;
-using testing::kSlotKeypadKeysyms;
-using testing::LineProcess;
-using testing::XTestDriver;
-using testing::XvfbSession;
+using test::KeyLogLine;
+using test::KeymapProbe;
+using test::kSlotKeypadKeysyms;
+using test::LineProcess;
+using test::XTestDriver;
+using test::XvfbSession;
 
-using testing::kShiftMask;
-using testing::x;
+using test::kShiftMask;
+using test::x;
 
 class X11EndToEndTest : public ::testing::Test {
 protected:

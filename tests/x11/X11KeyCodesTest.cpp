@@ -11,16 +11,14 @@
 namespace tarnic::x11 {
 namespace {
 
-using testing::x;
+using test::x;
 
 TEST(X11KeyCodes, QIsEvdev16AndMacTwelve) {
-    EXPECT_EQ(x(KEY_Q), 24u);
     EXPECT_EQ(macKeyCodeOfXKeycode(24), 12);
     EXPECT_EQ(xKeycodeOfMacKeyCode(12), 24u);
 }
 
 TEST(X11KeyCodes, KeypadSevenIsEvdev71AndMac89) {
-    EXPECT_EQ(x(KEY_KP7), 79u);
     EXPECT_EQ(macKeyCodeOfXKeycode(79), 89);
     EXPECT_EQ(xKeycodeOfMacKeyCode(89), 79u);
 }

@@ -11,7 +11,7 @@
 namespace tarnic::x11 {
 namespace {
 
-using testing::x;
+using test::x;
 
 class X11KeyRouterTest : public ::testing::Test {
 protected:

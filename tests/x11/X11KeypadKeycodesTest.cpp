@@ -34,15 +34,15 @@ namespace tarnic {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::KeyLogLine;
-using testing::KeymapProbe;
-using testing::kNumLockMask;
-using testing::kSlotKeypadKeysyms;
-using testing::LineProcess;
-using testing::processUntil;
-using testing::x;
-using testing::XTestDriver;
-using testing::XvfbSession;
+using test::KeyLogLine;
+using test::KeymapProbe;
+using test::kNumLockMask;
+using test::kSlotKeypadKeysyms;
+using test::LineProcess;
+using test::processUntil;
+using test::x;
+using test::XTestDriver;
+using test::XvfbSession;
 using x11::X11Connection;
 using x11::X11KeypadKeycodes;
 
@@ -138,13 +138,7 @@ protected:
     }
 
     unsigned long startKeyLog(LineProcess& log) {
-        EXPECT_TRUE(log.start(TARNIC_KEYLOG_PATH, {}, server.environment()));
-        const unsigned long window = waitForReadyWindow(log, 10s);
-        EXPECT_NE(window, 0u) << "key log did not map its window";
-        if (window != 0) {
-            EXPECT_TRUE(driver.focus(window, 5s));
-        }
-        return window;
+        return test::startKeyLog(log, TARNIC_KEYLOG_PATH, {}, server, driver);
     }
 
     XvfbSession server{false};

@@ -25,9 +25,9 @@ namespace tarnic {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::processUntil;
-using testing::XTestDriver;
-using testing::XvfbSession;
+using test::processUntil;
+using test::XTestDriver;
+using test::XvfbSession;
 
 std::string hostName() {
     char name[HOST_NAME_MAX + 1] = {};

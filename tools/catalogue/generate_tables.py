@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Writes the ability tables of src/core/catalogue/tables/ and the named record accessors.
+"""Writes the ability tables of src/core/catalogue/tables/ and, for the tests, the named record
+accessors of tests/support/catalogue/.
 
 Run once by hand, then review and commit what it wrote: the program compiles the committed
 tables and never reads the game's file.
@@ -19,6 +20,8 @@ import sys
 HERE = pathlib.Path(__file__).resolve().parent
 ROOT = HERE.parent.parent
 OUT = ROOT / "src" / "core" / "catalogue"
+# The records by name serve only the tests.
+TEST_OUT = ROOT / "tests" / "support" / "catalogue"
 MARK = "\u2714\ufe0e"
 
 HOTKEY_KEYS = ("Hotkey", "Unhotkey", "Researchhotkey")
@@ -233,23 +236,46 @@ def write_accessors(rows):
     decls = "\n".join(f"const AbilityRecord& {r['const']}();" for r in rows)
     defs = "\n".join(f"const AbilityRecord& {r['const']}() {{\n    return all_data()[{i}];\n}}"
                      for i, r in enumerate(rows))
-    (OUT / "CatalogueRecords.h").write_text(f"""#pragma once
+    names = "\n".join(f"        {{\"{r['const']}\", &{r['const']}}}," for r in rows)
+    TEST_OUT.mkdir(parents=True, exist_ok=True)
+    (TEST_OUT / "CatalogueRecords.h").write_text(f"""#pragma once
 
 #include "core/catalogue/Catalogue.h"
 
+#include <span>
+#include <string_view>
+
 namespace tarnic {{
 
-// Every record of the catalogue by its own name, in catalogue order. Each is the element of
-// all_data() at its row, so it is built on first use like the rest of the catalogue.
+// Every record of the catalogue by its own name, in catalogue order, for the tests. Each is the
+// element of all_data() at its row, so it is built on first use like the rest of the catalogue.
 {decls}
+
+// A record's name beside its accessor.
+struct NamedRecord {{
+    std::string_view name;
+    const AbilityRecord& (*record)();
+}};
+
+// All 160, in catalogue order.
+std::span<const NamedRecord> namedRecords();
 
 }} // namespace tarnic
 """, encoding="utf-8")
-    (OUT / "CatalogueRecords.cpp").write_text(f"""#include "core/catalogue/CatalogueRecords.h"
+    (TEST_OUT / "CatalogueRecords.cpp").write_text(f"""#include "support/catalogue/CatalogueRecords.h"
+
+#include <array>
 
 namespace tarnic {{
 
 {defs}
+
+std::span<const NamedRecord> namedRecords() {{
+    static constexpr std::array<NamedRecord, {len(rows)}> records = {{{{
+{names}
+    }}}};
+    return records;
+}}
 
 }} // namespace tarnic
 """, encoding="utf-8")

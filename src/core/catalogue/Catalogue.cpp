@@ -1,6 +1,5 @@
 #include "core/catalogue/Catalogue.h"
 
-#include "core/catalogue/CatalogueRecords.h"
 #include "core/catalogue/HotkeyMarking.h"
 #include "core/catalogue/tables/AbilityTables.h"
 

@@ -8,11 +8,11 @@ namespace tarnic::catalogue {
 
 namespace {
 
-constexpr std::array<std::string_view, 3> hotkeyKeys = {"Hotkey=", "Unhotkey=", "Researchhotkey="};
+constexpr std::array<std::string_view, 3> kHotkeyKeys = {"Hotkey=", "Unhotkey=", "Researchhotkey="};
 
 // The key with its equals sign when the line is a hotkey line, otherwise empty.
 std::string_view hotkeyKeyOf(std::string_view line) {
-    for (std::string_view key : hotkeyKeys) {
+    for (std::string_view key : kHotkeyKeys) {
         if (line.starts_with(key)) {
             return key;
         }

@@ -8,12 +8,12 @@ namespace tarnic {
 namespace {
 
 bool isGeneralCommand(const std::vector<AbilityRecord>& list, std::size_t index) {
-    return index < kGeneralCommandCount && field(list[index], name_parent) == nullptr;
+    return index < kGeneralCommandCount && optionalField(list[index], name_parent) == nullptr;
 }
 
 bool oneUnitHasBoth(const std::vector<AbilityRecord>& list, std::size_t a, std::size_t b) {
-    const std::string* ownerA = field(list[a], name_parent);
-    const std::string* ownerB = field(list[b], name_parent);
+    const std::string* ownerA = optionalField(list[a], name_parent);
+    const std::string* ownerB = optionalField(list[b], name_parent);
     if (ownerA != nullptr && ownerB != nullptr) {
         return *ownerA == *ownerB;
     }
@@ -25,15 +25,15 @@ bool oneUnitHasBoth(const std::vector<AbilityRecord>& list, std::size_t a, std::
 } // namespace
 
 bool keyIsChosen(const AbilityRecord& record) {
-    const std::string* chosen = field(record, new_hotkey);
+    const std::string* chosen = optionalField(record, new_hotkey);
     return chosen != nullptr && !chosen->empty();
 }
 
 std::string keyInForce(const AbilityRecord& record) {
     if (keyIsChosen(record)) {
-        return *field(record, new_hotkey);
+        return *optionalField(record, new_hotkey);
     }
-    const std::string* fallback = field(record, def_hotkey);
+    const std::string* fallback = optionalField(record, def_hotkey);
     return fallback != nullptr ? *fallback : std::string();
 }
 

@@ -7,7 +7,7 @@ std::string blockList(const std::vector<AbilityRecord>& list) {
     for (const AbilityRecord& record : list) {
         // A missing "new edit" is not an empty one: it takes the second branch and then has
         // nothing to give, which requiredField reports.
-        const std::string* edited = field(record, new_edit);
+        const std::string* edited = optionalField(record, new_edit);
         blocks += '\n';
         if (edited != nullptr && edited->empty()) {
             blocks += requiredField(record, def);

@@ -11,7 +11,7 @@ namespace tarnic {
 namespace {
 
 std::optional<std::string> ownerOf(const AbilityRecord& record) {
-    const std::string* owner = field(record, name_parent);
+    const std::string* owner = optionalField(record, name_parent);
     return owner == nullptr ? std::nullopt : std::optional<std::string>(*owner);
 }
 

@@ -15,11 +15,11 @@ SelectionDetail selectionDetail(const AbilityRecord& record) {
     SelectionDetail detail;
     detail.spellImage = requiredField(record, name_spell);
     // An owner that is present but empty is still an owner: its picture is looked up by "".
-    if (const std::string* owner = field(record, name_parent)) {
+    if (const std::string* owner = optionalField(record, name_parent)) {
         detail.parentImage = *owner;
         detail.parentLbl = *owner;
     } else {
-        detail.parentImage = emptyPicture;
+        detail.parentImage = kEmptyPicture;
     }
     detail.popupTitle = popupTitle(record);
     detail.defHotkey = defaultHotkeyLine(requiredField(record, def_hotkey));

@@ -7,7 +7,7 @@
 namespace tarnic {
 
 // The picture shown for an ability without an owner.
-inline constexpr char emptyPicture[] = "empty";
+inline constexpr char kEmptyPicture[] = "empty";
 
 // What the detail area shows for the selected record.
 struct SelectionDetail {

@@ -44,8 +44,8 @@ Keys keysAt(const BlockPlaces& block, const std::vector<const HotkeyFileSection*
 
 Shapes shapesOf(const AbilityRecord& record) {
     Shapes shapes;
-    const std::string* edit = field(record, for_edit);
-    const std::string* dflt = field(record, def);
+    const std::string* edit = optionalField(record, for_edit);
+    const std::string* dflt = optionalField(record, def);
     if (edit == nullptr || dflt == nullptr) {
         return shapes;
     }
@@ -88,8 +88,8 @@ struct Choice {
 };
 
 Choice choiceOf(const AbilityRecord& record) {
-    const std::string* key = field(record, new_hotkey);
-    const std::string* edit = field(record, new_edit);
+    const std::string* key = optionalField(record, new_hotkey);
+    const std::string* edit = optionalField(record, new_edit);
     return {key ? std::optional(*key) : std::nullopt, edit ? std::optional(*edit) : std::nullopt};
 }
 
@@ -126,7 +126,7 @@ bool readAbility(AbilityRecord& record, const Shapes& shapes, SectionOccurrences
         ++report.mixed;
     }
     const std::string letter(1, key);
-    if (replaceAll(*field(record, for_edit), mark, letter) == *field(record, def)) {
+    if (replaceAll(*optionalField(record, for_edit), mark, letter) == *optionalField(record, def)) {
         clearChoice(record);
     } else {
         assignKey(record, letter);

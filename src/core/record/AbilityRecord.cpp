@@ -21,13 +21,13 @@ std::string replaceAll(std::string_view text, std::string_view what, std::string
     return out;
 }
 
-const std::string* field(const AbilityRecord& record, std::string_view key) {
+const std::string* optionalField(const AbilityRecord& record, std::string_view key) {
     const auto it = record.find(key);
     return it == record.end() ? nullptr : &it->second;
 }
 
 const std::string& requiredField(const AbilityRecord& record, std::string_view key) {
-    const std::string* value = field(record, key);
+    const std::string* value = optionalField(record, key);
     if (value == nullptr) {
         fatalError(kNilUnwrap, std::string("record has no \"") + std::string(key) + "\"");
     }

@@ -6,6 +6,19 @@
 
 namespace tarnic {
 
+// Names the formats fix. A few identifiers are spelled as the stored format and the file formats
+// name them, not in the program's own style (kCamelCase constants, camelCase functions), so that
+// the code reads side by side with the store and the files:
+// - the record keys below (the dictionaries of the stored list "mainDic"): name_spell, name_parent,
+//   def, def_hotkey, new_hotkey, for_edit, new_edit;
+// - mark, the hotkey marker in the stored "for edit" texts and in the export template; custKs,
+//   the export file's name; all_data, the catalogue the stored list starts from;
+// - in core/vocabulary/KeyCodes.h: key_codes and key_codes_flag (the virtual key codes the store
+//   holds), keyboardKeys, keyboardKeysNum and select (the pop-up titles bindings are chosen
+//   by), war3ID (the game's identifier);
+// - the store's keys "mainDic" and "inventoryModel1" to "inventoryModel6".
+// Every other name says what it is, in the program's style.
+
 // One ability as the hotkey file knows it: a string-to-string dictionary read through the key
 // constants below. A std::map keeps a missing key (the general commands have no owner) apart
 // from an empty value, and stores and reads back as a plain dictionary.
@@ -31,7 +44,7 @@ inline constexpr char custKs[] = "CustomKeys";
 std::string replaceAll(std::string_view text, std::string_view what, std::string_view with);
 
 // The value under `key`, or nullptr when the record has no such key.
-const std::string* field(const AbilityRecord& record, std::string_view key);
+const std::string* optionalField(const AbilityRecord& record, std::string_view key);
 
 // The value under `key`; a missing key is a broken record and ends the program.
 const std::string& requiredField(const AbilityRecord& record, std::string_view key);

@@ -9,7 +9,8 @@
 namespace tarnic {
 
 // Key codes are macOS virtual key codes (kVK_ numbering) throughout the program, the store
-// included; only the X11 layer translates them.
+// included; only the X11 layer translates them. The names below that break the program's naming
+// style are fixed by the formats (see the list in core/record/AbilityRecord.h).
 
 // Label of each key the pop-ups can name, 71 entries. The labels mix shifted and unshifted US
 // symbols on purpose (41 is ":", 24 is "+"); all are distinct, so the table is searched by label.

@@ -1,41 +1,32 @@
 #include "platform/fake/FakeKeyObserver.h"
 
-#include "core/platform/NotifyAll.h"
-#include "platform/fake/FakeAccessibilityTrust.h"
+#include "core/platform/AccessibilityTrust.h"
 
+#include <functional>
 #include <utility>
 
 namespace tarnic {
 
-FakeKeyObserver::FakeKeyObserver(const FakeAccessibilityTrust* trust) : trust_(trust) {}
+FakeKeyObserver::FakeKeyObserver(const AccessibilityTrust* trust)
+    : gate_([this] { return ownApplicationFrontmost_; },
+            trust == nullptr ? std::function<bool()>{} : std::function<bool()>([trust] {
+                return trust->isProcessTrusted();
+            })) {}
 
 void FakeKeyObserver::addKeyDownMonitor(Handler handler) {
-    keyDownHandlers_.push_back(std::move(handler));
+    gate_.addKeyDownHandler(std::move(handler));
 }
 
 void FakeKeyObserver::addFlagsChangedMonitor(Handler handler) {
-    flagsChangedHandlers_.push_back(std::move(handler));
+    gate_.addFlagsChangedHandler(std::move(handler));
 }
 
 bool FakeKeyObserver::pressKey(int keyCode) {
-    return deliver(keyDownHandlers_, keyCode);
+    return gate_.keyDown(keyCode);
 }
 
 bool FakeKeyObserver::changeModifier(int keyCode) {
-    return deliver(flagsChangedHandlers_, keyCode);
-}
-
-bool FakeKeyObserver::reporting() const {
-    const bool trusted = trust_ == nullptr || trust_->isProcessTrusted();
-    return trusted && !ownApplicationFrontmost_;
-}
-
-bool FakeKeyObserver::deliver(const std::vector<Handler>& handlers, int keyCode) const {
-    if (!reporting()) {
-        return false;
-    }
-    notifyAll(handlers, keyCode);
-    return true;
+    return gate_.flagsChanged(keyCode);
 }
 
 } // namespace tarnic

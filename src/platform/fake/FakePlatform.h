@@ -21,7 +21,7 @@ struct FakeParts {
 
 // A platform made of the recording fakes: trusted, no application frontmost (nor announced),
 // nothing posted.
-// Its key observer reports nothing while its trust is turned off.
+// Its key observer reports through the program's KeyGate, which asks this trust object.
 Platform makeFakePlatform();
 
 // The fakes inside `platform`, which makeFakePlatform() made.

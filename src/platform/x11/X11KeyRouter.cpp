@@ -1,47 +1,43 @@
 #include "platform/x11/X11KeyRouter.h"
 
-#include "core/platform/NotifyAll.h"
 #include "platform/x11/X11KeyCodes.h"
 
 #include <optional>
+#include <utility>
 
 namespace tarnic::x11 {
 
 X11KeyRouter::X11KeyRouter(std::function<bool()> ownWindowActive,
                            std::function<bool(unsigned xKeycode)> ownTap)
-    : ownWindowActive_(std::move(ownWindowActive)), ownTap_(std::move(ownTap)) {}
+    : ownTap_(std::move(ownTap)), gate_(std::move(ownWindowActive)) {}
 
 void X11KeyRouter::addKeyDownHandler(Handler handler) {
-    keyDownHandlers_.push_back(std::move(handler));
+    gate_.addKeyDownHandler(std::move(handler));
 }
 
 void X11KeyRouter::addFlagsChangedHandler(Handler handler) {
-    flagsChangedHandlers_.push_back(std::move(handler));
+    gate_.addFlagsChangedHandler(std::move(handler));
 }
 
 void X11KeyRouter::keyPressed(unsigned xKeycode) {
     const std::optional<int> macKeyCode = macKeyCodeOfXKeycode(xKeycode);
-    if (!macKeyCode || ownTap(xKeycode) || ownWindowActive()) {
+    if (!macKeyCode || ownTap(xKeycode)) {
         return;
     }
-    notify(isModifierXKeycode(xKeycode) ? flagsChangedHandlers_ : keyDownHandlers_, *macKeyCode);
+    if (isModifierXKeycode(xKeycode)) {
+        gate_.flagsChanged(*macKeyCode);
+    } else {
+        gate_.keyDown(*macKeyCode);
+    }
 }
 
 void X11KeyRouter::keyReleased(unsigned xKeycode) {
-    if (!isModifierXKeycode(xKeycode) || ownTap(xKeycode) || ownWindowActive()) {
+    if (!isModifierXKeycode(xKeycode) || ownTap(xKeycode)) {
         return;
     }
     if (const std::optional<int> macKeyCode = macKeyCodeOfXKeycode(xKeycode)) {
-        notify(flagsChangedHandlers_, *macKeyCode);
+        gate_.flagsChanged(*macKeyCode);
     }
-}
-
-void X11KeyRouter::notify(const std::vector<Handler>& handlers, int macKeyCode) {
-    notifyAll(handlers, macKeyCode);
-}
-
-bool X11KeyRouter::ownWindowActive() const {
-    return ownWindowActive_ && ownWindowActive_();
 }
 
 bool X11KeyRouter::ownTap(unsigned xKeycode) const {

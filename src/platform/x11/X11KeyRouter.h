@@ -1,17 +1,17 @@
 #pragma once
 
-#include "core/platform/KeyObserver.h"
+#include "core/platform/KeyGate.h"
 
 #include <functional>
-#include <vector>
 
 namespace tarnic::x11 {
 
 // Turns the raw key presses and releases the X server records into the program's two kinds of
 // observation, in macOS virtual key codes: a press or a release of a modifier key is a modifier
 // change; a press of any other key is a key-down; other releases mean nothing. Keys the table
-// does not know, the keycodes this program posts its keypad taps on, and every key typed while a
-// window of this process is the active one, are not reported at all.
+// does not know and the keycodes this program posts its keypad taps on are not reported at all;
+// the rest go through the program's KeyGate, which holds back every key typed while a window of
+// this process is the active one. (No trust question here: without the recording no key arrives.)
 class X11KeyRouter {
 public:
     using Handler = KeyObserver::Handler;
@@ -31,14 +31,10 @@ public:
     void keyReleased(unsigned xKeycode);
 
 private:
-    static void notify(const std::vector<Handler>& handlers, int macKeyCode);
-    bool ownWindowActive() const;
     bool ownTap(unsigned xKeycode) const;
 
-    std::function<bool()> ownWindowActive_;
     std::function<bool(unsigned)> ownTap_;
-    std::vector<Handler> keyDownHandlers_;
-    std::vector<Handler> flagsChangedHandlers_;
+    KeyGate gate_;
 };
 
 } // namespace tarnic::x11

@@ -2,7 +2,8 @@
 
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/X11EventPump.h"
-#include "platform/x11/X11KeyCodes.h"
+#include "core/remapper/SlotKeys.h"
+#include "platform/x11/KeypadClaimPlanner.h"
 
 #include <X11/XKBlib.h>
 #include <X11/Xatom.h>
@@ -18,70 +19,24 @@ namespace tarnic::x11 {
 
 namespace {
 
-struct Digit {
-    int macKeyCode;
-    KeySym keysym;
-};
-
-// In slot order, as the property lists them.
-constexpr std::array<Digit, 6> kDigits = {
-    {{89, XK_KP_7}, {91, XK_KP_8}, {86, XK_KP_4}, {87, XK_KP_5}, {83, XK_KP_1}, {84, XK_KP_2}}};
-
 constexpr char kPropertyName[] = "_TARNIC_PRO_KEYPAD_KEYCODES";
 
 // The server's core keyboard mapping, read in one request.
-class Keymap {
-public:
-    explicit Keymap(Display* display) {
-        XDisplayKeycodes(display, &min_, &max_);
-        KeySym* syms =
-            XGetKeyboardMapping(display, static_cast<KeyCode>(min_), max_ - min_ + 1, &perKeycode_);
-        if (syms != nullptr) {
-            syms_.assign(syms, syms + static_cast<std::size_t>(max_ - min_ + 1) *
-                                          static_cast<std::size_t>(perKeycode_));
-            XFree(syms);
-        } else {
-            perKeycode_ = 0;
-        }
+KeymapRows readKeymap(Display* display) {
+    int minKeycode = 0;
+    int maxKeycode = 0;
+    int keysymsPerKeycode = 0;
+    XDisplayKeycodes(display, &minKeycode, &maxKeycode);
+    KeySym* syms = XGetKeyboardMapping(display, static_cast<KeyCode>(minKeycode),
+                                       maxKeycode - minKeycode + 1, &keysymsPerKeycode);
+    if (syms == nullptr) {
+        return {};
     }
-
-    int min() const { return min_; }
-    int max() const { return max_; }
-
-    // No keysym at any level of any group.
-    bool unused(unsigned keycode) const {
-        const auto row = rowOf(keycode);
-        return row.first != nullptr &&
-               std::all_of(row.first, row.second, [](KeySym sym) { return sym == NoSymbol; });
-    }
-
-    // This keysym and no other (the core mapping repeats a one-group key's keysym in the second
-    // group's columns).
-    bool holdsOnly(unsigned keycode, KeySym keysym) const {
-        const auto row = rowOf(keycode);
-        return row.first != nullptr &&
-               std::any_of(row.first, row.second, [&](KeySym sym) { return sym == keysym; }) &&
-               std::all_of(row.first, row.second,
-                           [&](KeySym sym) { return sym == NoSymbol || sym == keysym; });
-    }
-
-private:
-    std::pair<const KeySym*, const KeySym*> rowOf(unsigned keycode) const {
-        if (perKeycode_ <= 0 || static_cast<int>(keycode) < min_ ||
-            static_cast<int>(keycode) > max_) {
-            return {nullptr, nullptr};
-        }
-        const KeySym* first =
-            syms_.data() + static_cast<std::size_t>(static_cast<int>(keycode) - min_) *
-                               static_cast<std::size_t>(perKeycode_);
-        return {first, first + perKeycode_};
-    }
-
-    int min_ = 0;
-    int max_ = -1;
-    int perKeycode_ = 0;
-    std::vector<KeySym> syms_;
-};
+    std::vector<Keysym> keysyms(syms, syms + static_cast<std::size_t>(maxKeycode - minKeycode + 1) *
+                                                 static_cast<std::size_t>(keysymsPerKeycode));
+    XFree(syms);
+    return KeymapRows(minKeycode, maxKeycode, keysymsPerKeycode, std::move(keysyms));
+}
 
 std::vector<unsigned> modifierKeycodes(Display* display) {
     std::vector<unsigned> keycodes;
@@ -97,8 +52,8 @@ std::vector<unsigned> modifierKeycodes(Display* display) {
     return keycodes;
 }
 
-std::array<unsigned, 6> readRecord(Display* display, Atom property) {
-    std::array<unsigned, 6> recorded{};
+SlotKeycodes readRecord(Display* display, Atom property) {
+    SlotKeycodes recorded{};
     Atom type = 0;
     int format = 0;
     unsigned long count = 0;
@@ -119,7 +74,7 @@ std::array<unsigned, 6> readRecord(Display* display, Atom property) {
     return recorded;
 }
 
-void writeRecord(Display* display, Atom property, const std::array<unsigned, 6>& keycodes) {
+void writeRecord(Display* display, Atom property, const SlotKeycodes& keycodes) {
     const Window root = DefaultRootWindow(display);
     if (std::all_of(keycodes.begin(), keycodes.end(), [](unsigned k) { return k == 0; })) {
         XDeleteProperty(display, root, property);
@@ -134,43 +89,24 @@ void writeRecord(Display* display, Atom property, const std::array<unsigned, 6>&
 
 // Gives each keycode its keysym, one request per run of consecutive keycodes: every request
 // makes every client of the display reread its keymap.
-void mapKeycodes(Display* display, std::vector<std::pair<unsigned, KeySym>> mappings) {
-    std::sort(mappings.begin(), mappings.end());
+void mapKeycodes(Display* display, std::vector<KeycodeMapping> mappings) {
+    std::sort(
+        mappings.begin(), mappings.end(),
+        [](const KeycodeMapping& a, const KeycodeMapping& b) { return a.keycode < b.keycode; });
     std::size_t start = 0;
     while (start < mappings.size()) {
         std::size_t end = start + 1;
-        while (end < mappings.size() && mappings[end].first == mappings[end - 1].first + 1) {
+        while (end < mappings.size() && mappings[end].keycode == mappings[end - 1].keycode + 1) {
             ++end;
         }
         std::vector<KeySym> syms;
         for (std::size_t i = start; i < end; ++i) {
-            syms.push_back(mappings[i].second);
+            syms.push_back(mappings[i].keysym);
         }
-        XChangeKeyboardMapping(display, static_cast<int>(mappings[start].first), 1, syms.data(),
+        XChangeKeyboardMapping(display, static_cast<int>(mappings[start].keycode), 1, syms.data(),
                                static_cast<int>(syms.size()));
         start = end;
     }
-}
-
-bool isInKeyTable(unsigned keycode) {
-    return macKeyCodeOfXKeycode(keycode).has_value();
-}
-
-// Keycodes free to take, best first: from the top of the range down, since physical keys
-// cluster at the bottom; keycodes that the key table names for a physical key last, so that a
-// binding on such a key keeps working as long as possible.
-std::vector<unsigned> freeKeycodes(const Keymap& map, const std::vector<unsigned>& modifiers) {
-    std::vector<unsigned> first;
-    std::vector<unsigned> last;
-    for (int keycode = map.max(); keycode >= map.min(); --keycode) {
-        const auto k = static_cast<unsigned>(keycode);
-        if (!map.unused(k) || std::find(modifiers.begin(), modifiers.end(), k) != modifiers.end()) {
-            continue;
-        }
-        (isInKeyTable(k) ? last : first).push_back(k);
-    }
-    first.insert(first.end(), last.begin(), last.end());
-    return first;
 }
 
 } // namespace
@@ -206,14 +142,17 @@ X11KeypadKeycodes::~X11KeypadKeycodes() {
 }
 
 std::optional<unsigned> X11KeypadKeycodes::keycodeFor(int macKeyCode) {
-    const auto it = std::find_if(kDigits.begin(), kDigits.end(), [&](const Digit& digit) {
-        return digit.macKeyCode == macKeyCode;
-    });
-    if (it == kDigits.end()) {
+    std::optional<std::size_t> slotIndex;
+    for (std::size_t i = 0; i < keycodes_.size() && !slotIndex; ++i) {
+        if (keypadKeyOfSlot(static_cast<std::int64_t>(i) + 1) == macKeyCode) {
+            slotIndex = i;
+        }
+    }
+    if (!slotIndex) {
         return std::nullopt;
     }
     takeInKeymapChanges();
-    const unsigned keycode = keycodes_[static_cast<std::size_t>(it - kDigits.begin())];
+    const unsigned keycode = keycodes_[*slotIndex];
     if (keycode == 0) {
         return std::nullopt;
     }
@@ -247,16 +186,9 @@ void X11KeypadKeycodes::takeIn(XEvent& event) {
 }
 
 void X11KeypadKeycodes::verify() {
-    const Keymap map(connection_->display());
-    bool missing = false;
-    for (std::size_t i = 0; i < kDigits.size(); ++i) {
-        if (keycodes_[i] != 0 && !map.holdsOnly(keycodes_[i], kDigits[i].keysym)) {
-            // Taken or cleared by the new keymap: no tap goes out on it any more.
-            keycodes_[i] = 0;
-        }
-        missing = missing || keycodes_[i] == 0;
-    }
-    if (missing) {
+    // A keycode taken or cleared by the new keymap carries no tap any more.
+    keycodes_ = keycodesStillHeld(readKeymap(connection_->display()), keycodes_);
+    if (std::any_of(keycodes_.begin(), keycodes_.end(), [](unsigned k) { return k == 0; })) {
         claim();
     }
 }
@@ -264,64 +196,22 @@ void X11KeypadKeycodes::verify() {
 void X11KeypadKeycodes::claim() {
     Display* display = connection_->display();
     XGrabServer(display);
-    const Keymap map(display);
-    const std::array<unsigned, 6> recorded = readRecord(display, propertyAtom_);
-
-    std::array<unsigned, 6> next{};
-    const auto taken = [&](unsigned keycode) {
-        return std::find(next.begin(), next.end(), keycode) != next.end();
-    };
-    // Ours already, or a leftover of an earlier run that still holds its digit.
-    for (std::size_t i = 0; i < kDigits.size(); ++i) {
-        for (const unsigned candidate : {keycodes_[i], recorded[i]}) {
-            if (candidate != 0 && !taken(candidate) &&
-                map.holdsOnly(candidate, kDigits[i].keysym)) {
-                next[i] = candidate;
-                break;
-            }
-        }
-    }
-    // A recorded leftover not reused (a digit this process already has elsewhere) is cleared,
-    // so that no digit ends up on two keycodes.
-    std::vector<std::pair<unsigned, KeySym>> changes;
-    for (std::size_t i = 0; i < kDigits.size(); ++i) {
-        if (recorded[i] != 0 && !taken(recorded[i]) &&
-            map.holdsOnly(recorded[i], kDigits[i].keysym)) {
-            changes.emplace_back(recorded[i], NoSymbol);
-        }
-    }
-    const std::vector<unsigned> free = freeKeycodes(map, modifierKeycodes(display));
-    auto candidate = free.begin();
-    for (std::size_t i = 0; i < kDigits.size(); ++i) {
-        if (next[i] != 0) {
-            continue;
-        }
-        while (candidate != free.end() && taken(*candidate)) {
-            ++candidate;
-        }
-        if (candidate == free.end()) {
-            break;
-        }
-        next[i] = *candidate++;
-        changes.emplace_back(next[i], kDigits[i].keysym);
-    }
+    const SlotKeycodes recorded = readRecord(display, propertyAtom_);
+    const KeypadClaimPlan plan =
+        planKeypadClaim(readKeymap(display), keycodes_, recorded, modifierKeycodes(display));
+    const std::vector<KeycodeMapping> changes = plan.mappingChanges();
     // The record first: a process killed in between leaves at most a record of keycodes that
     // do not hold their digit, which the next start ignores.
-    if (next != recorded) {
-        writeRecord(display, propertyAtom_, next);
+    if (plan.keycodes != recorded) {
+        writeRecord(display, propertyAtom_, plan.keycodes);
     }
     mapKeycodes(display, changes);
     XUngrabServer(display);
-    keycodes_ = next;
+    keycodes_ = plan.keycodes;
 
     if (!changes.empty() && !connection_->syncSucceeded()) {
         // A mapping the server refused: keep only what it holds.
-        const Keymap now(display);
-        for (std::size_t i = 0; i < kDigits.size(); ++i) {
-            if (keycodes_[i] != 0 && !now.holdsOnly(keycodes_[i], kDigits[i].keysym)) {
-                keycodes_[i] = 0;
-            }
-        }
+        keycodes_ = keycodesStillHeld(readKeymap(display), keycodes_);
     }
     XFlush(display);
 
@@ -340,19 +230,13 @@ void X11KeypadKeycodes::release() {
     }
     Display* display = connection_->display();
     XGrabServer(display);
-    const Keymap map(display);
-    std::array<unsigned, 6> recorded = readRecord(display, propertyAtom_);
-    std::vector<std::pair<unsigned, KeySym>> cleared;
-    for (std::size_t i = 0; i < kDigits.size(); ++i) {
-        const unsigned keycode = keycodes_[i];
-        if (keycode != 0 && map.holdsOnly(keycode, kDigits[i].keysym)) {
-            cleared.emplace_back(keycode, NoSymbol);
-        }
-        if (recorded[i] == keycode) {
-            recorded[i] = 0;
-        }
+    const KeypadReleasePlan plan =
+        planKeypadRelease(readKeymap(display), keycodes_, readRecord(display, propertyAtom_));
+    std::vector<KeycodeMapping> cleared;
+    for (const unsigned keycode : plan.cleared) {
+        cleared.push_back({keycode, kNoSymbol});
     }
-    writeRecord(display, propertyAtom_, recorded);
+    writeRecord(display, propertyAtom_, plan.record);
     mapKeycodes(display, cleared);
     XUngrabServer(display);
     XSync(display, False);

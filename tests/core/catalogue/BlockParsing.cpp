@@ -64,23 +64,6 @@ ParsedBlock parseBlock(std::string_view block) {
     return parsed;
 }
 
-std::string withHotkeyValues(std::string_view block, std::string_view with) {
-    std::string out;
-    const std::vector<std::string> lines = splitLines(block);
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        const std::string_view key = lineKey(lines[i]);
-        if (isHotkeyKey(key)) {
-            out += std::string(key) + "=" + std::string(with);
-        } else {
-            out += lines[i];
-        }
-        if (i + 1 < lines.size()) {
-            out += '\n';
-        }
-    }
-    return out;
-}
-
 std::size_t countOf(std::string_view text, std::string_view what) {
     std::size_t count = 0;
     for (std::size_t at = text.find(what); at != std::string_view::npos;

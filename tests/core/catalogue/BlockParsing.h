@@ -28,10 +28,6 @@ std::string_view lineKey(std::string_view line);
 bool isHotkeyKey(std::string_view key);
 bool isTipKey(std::string_view key);
 
-// The test's own statement of the template rule: every value of a line that begins with
-// "Hotkey=", "Unhotkey=" or "Researchhotkey=" becomes `with`.
-std::string withHotkeyValues(std::string_view block, std::string_view with);
-
 std::size_t countOf(std::string_view text, std::string_view what);
 
 // One section of the game's default hotkey file.

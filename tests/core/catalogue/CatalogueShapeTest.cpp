@@ -1,7 +1,7 @@
-#include "core/catalogue/AbilityRows.h"
+#include "support/catalogue/AbilityRows.h"
 #include "core/catalogue/BlockParsing.h"
 #include "core/catalogue/Catalogue.h"
-#include "core/catalogue/CatalogueRecords.h"
+#include "support/catalogue/CatalogueRecords.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@ using test::abilityRows;
 
 std::string rowLabel(std::size_t index) {
     const AbilityRecord& record = all_data().at(index);
-    const std::string* name = field(record, name_spell);
+    const std::string* name = optionalField(record, name_spell);
     return "row " + std::to_string(index + 1) + " (" + (name ? *name : "?") + ")";
 }
 
@@ -33,7 +33,7 @@ TEST(Catalogue, ExactlyTheFirstSevenRecordsHaveNoOwner) {
     ASSERT_EQ(all_data().size(), 160u);
     for (std::size_t i = 0; i < all_data().size(); ++i) {
         SCOPED_TRACE(rowLabel(i));
-        const std::string* parent = field(all_data()[i], name_parent);
+        const std::string* parent = optionalField(all_data()[i], name_parent);
         if (i < 7) {
             EXPECT_EQ(parent, nullptr);
         } else {
@@ -91,7 +91,7 @@ TEST(Catalogue, NamesOwnersAndDefaultKeysFollowTheAbilityTable) {
         SCOPED_TRACE("row " + std::to_string(row.number) + " (" + std::string(row.name) + ")");
         const AbilityRecord& record = all_data()[static_cast<std::size_t>(row.number - 1)];
         EXPECT_EQ(record.at(name_spell), row.name);
-        const std::string* parent = field(record, name_parent);
+        const std::string* parent = optionalField(record, name_parent);
         if (row.parent) {
             ASSERT_NE(parent, nullptr);
             EXPECT_EQ(*parent, *row.parent);

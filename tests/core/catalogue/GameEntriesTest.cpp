@@ -1,7 +1,7 @@
-#include "core/catalogue/AbilityRows.h"
+#include "support/catalogue/AbilityRows.h"
 #include "core/catalogue/BlockParsing.h"
 #include "core/catalogue/Catalogue.h"
-#include "core/catalogue/CatalogueRecords.h"
+#include "support/catalogue/CatalogueRecords.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,7 @@
 #include "core/catalogue/BlockParsing.h"
 #include "core/catalogue/Catalogue.h"
-#include "core/catalogue/CatalogueRecords.h"
+#include "core/catalogue/HotkeyMarking.h"
+#include "support/catalogue/CatalogueRecords.h"
 
 #include <gtest/gtest.h>
 
@@ -48,7 +49,7 @@ TEST(IrregularRecords, CallToArmsSwitchesOffWithWAndAChosenKeyReplacesBoth) {
         EXPECT_EQ(hotkeyLinesOfSection(filled(record, "Q").at(new_edit), id), qAndQ);
     }
     EXPECT_EQ(countOf(record.at(for_edit), mark), 4u);
-    EXPECT_EQ(record.at(for_edit), test::withHotkeyValues(record.at(def), mark));
+    EXPECT_EQ(record.at(for_edit), catalogue::markHotkeyValues(record.at(def)));
     const std::string edited = filled(record, "Q").at(new_edit);
     EXPECT_EQ(countOf(edited, "Hotkey=Q"), 2u);
     EXPECT_EQ(countOf(edited, "Unhotkey=Q"), 2u);
@@ -108,7 +109,7 @@ TEST(IrregularRecords, EnsnareAndCargoLoadShowAnotherDefaultKeyThanTheirEntry) {
         EXPECT_EQ(hotkeyLinesOfSection(reset.at(def),
                                        c.record.at(name_spell) == "Ensnare" ? "Aens" : "Aloa"),
                   std::vector<std::string>{c.held});
-        EXPECT_EQ(reset.at(for_edit), test::withHotkeyValues(reset.at(def), mark));
+        EXPECT_EQ(reset.at(for_edit), catalogue::markHotkeyValues(reset.at(def)));
     }
 }
 

@@ -1,4 +1,4 @@
-#include "core/catalogue/CatalogueRecords.h"
+#include "support/catalogue/CatalogueRecords.h"
 
 #include <gtest/gtest.h>
 

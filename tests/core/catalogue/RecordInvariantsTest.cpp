@@ -1,6 +1,7 @@
 #include "core/catalogue/BlockParsing.h"
 #include "core/catalogue/Catalogue.h"
-#include "core/catalogue/CatalogueRecords.h"
+#include "core/catalogue/HotkeyMarking.h"
+#include "support/catalogue/CatalogueRecords.h"
 
 #include <gtest/gtest.h>
 
@@ -9,8 +10,8 @@
 namespace tarnic {
 namespace {
 
+using catalogue::markHotkeyValues;
 using test::countOf;
-using test::withHotkeyValues;
 
 // The records whose deviations from the template rules are kept on purpose.
 const std::set<const AbilityRecord*>& irregularRecords() {
@@ -23,7 +24,7 @@ const std::set<const AbilityRecord*>& irregularRecords() {
 
 std::string label(const AbilityRecord& record) {
     return record.at(name_spell) + " / " +
-           (field(record, name_parent) ? record.at(name_parent) : "");
+           (optionalField(record, name_parent) ? record.at(name_parent) : "");
 }
 
 // Hotkey lines of a block, each as its whole line.
@@ -57,7 +58,7 @@ RuleCheck check(const AbilityRecord& record) {
     }
     // A hotkey that does not begin its line is not one the rule can mark.
     hotkeysAreKey = hotkeysAreKey && countOf(text, "Hotkey=") == castLines;
-    return {edit == withHotkeyValues(text, mark), hotkeysAreKey,
+    return {edit == markHotkeyValues(text), hotkeysAreKey,
             countOf(edit, mark) == hotkeyLinesOf(text).size(), countOf(text, mark) == 0};
 }
 
@@ -109,7 +110,7 @@ TEST(RecordInvariants, ChoosingQPutsQAtEveryHotkeyOfEverySectionAndNowhereElse) 
         AbilityRecord record = original;
         fillTemplate(record, "Q");
         EXPECT_EQ(record.at(new_hotkey), "Q");
-        EXPECT_EQ(record.at(new_edit), withHotkeyValues(original.at(def), "Q"));
+        EXPECT_EQ(record.at(new_edit), replaceAll(markHotkeyValues(original.at(def)), mark, "Q"));
         EXPECT_EQ(countOf(record.at(new_edit), mark), 0u);
     }
 }
@@ -156,7 +157,7 @@ TEST(RecordInvariants, ResearchTipPlaceholderSurvivesEveryFill) {
 }
 
 TEST(RecordInvariants, MoveHasNoOwnerAndIsReadWithoutFailure) {
-    EXPECT_EQ(field(move_(), name_parent), nullptr);
+    EXPECT_EQ(optionalField(move_(), name_parent), nullptr);
     EXPECT_EQ(move_().count(name_parent), 0u);
     EXPECT_EQ(requiredField(move_(), name_spell), "Move");
 }

@@ -1,6 +1,6 @@
 #include "core/editor/ClashRule.h"
 
-#include "core/catalogue/CatalogueRecords.h"
+#include "support/catalogue/CatalogueRecords.h"
 #include "core/editor/GridLayout.h"
 #include "core/editor/KeyAssignment.h"
 #include "core/editor/RecordFactory.h"
@@ -14,8 +14,8 @@
 namespace tarnic {
 namespace {
 
-using testing::generalCommands;
-using testing::makeRecord;
+using test::generalCommands;
+using test::makeRecord;
 
 // The record with the given key chosen by the player.
 AbilityRecord chosen(AbilityRecord record, const std::string& key) {

@@ -11,8 +11,8 @@
 namespace tarnic {
 namespace {
 
-using testing::generalCommands;
-using testing::makeRecord;
+using test::generalCommands;
+using test::makeRecord;
 
 // The expected block list, built here from the records' own fields.
 std::string expectedBlocks(const std::vector<AbilityRecord>& list) {

@@ -12,8 +12,8 @@
 namespace tarnic {
 namespace {
 
-using testing::generalCommands;
-using testing::makeRecord;
+using test::generalCommands;
+using test::makeRecord;
 
 std::vector<AbilityRecord> withOwners(const std::vector<std::optional<std::string>>& owners) {
     auto list = generalCommands();

@@ -7,7 +7,7 @@
 namespace tarnic {
 namespace {
 
-using testing::makeRecord;
+using test::makeRecord;
 
 TEST(KeyAssignment, SetsTheKeyAtEveryMarker) {
     auto record = makeRecord("Move", std::nullopt, "M");

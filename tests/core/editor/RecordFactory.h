@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 // A well-formed record in the shape of the catalogue's: a one-section block whose hotkey lines
 // all hold `defKey`, and its template with a marker at each of them.
@@ -36,4 +36,4 @@ inline std::vector<AbilityRecord> generalCommands() {
     return list;
 }
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

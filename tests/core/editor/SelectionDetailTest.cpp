@@ -7,7 +7,7 @@
 namespace tarnic {
 namespace {
 
-using testing::makeRecord;
+using test::makeRecord;
 
 TEST(SelectionDetail, WithoutChoiceThePopupShowsTheDefaultKey) {
     EXPECT_EQ(popupTitle(makeRecord("Heal", "Priest", "E")), "E");

@@ -18,8 +18,8 @@
 namespace tarnic {
 namespace {
 
-using testing::exported;
-using testing::testData;
+using test::exported;
+using test::testData;
 
 // Original file, kind of variant.
 using VariantParam = std::tuple<std::string, std::string>;

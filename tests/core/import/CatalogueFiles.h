@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-namespace tarnic::testing {
+namespace tarnic::test {
 
 inline std::string bytesOf(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
@@ -35,4 +35,4 @@ inline std::string exported(const std::vector<AbilityRecord>& list) {
     return exportText(list, shippedTemplate());
 }
 
-} // namespace tarnic::testing
+} // namespace tarnic::test

@@ -3,7 +3,7 @@
 
 #include "CatalogueFiles.h"
 #include "core/catalogue/Catalogue.h"
-#include "core/catalogue/CatalogueRecords.h"
+#include "support/catalogue/CatalogueRecords.h"
 #include "core/editor/GridLayout.h"
 #include "core/editor/KeyAssignment.h"
 
@@ -16,8 +16,8 @@
 namespace tarnic {
 namespace {
 
-using testing::exported;
-using testing::testData;
+using test::exported;
+using test::testData;
 
 // Export, start again from the catalogue, import the file, export again.
 std::string roundTrip(const std::string& file) {

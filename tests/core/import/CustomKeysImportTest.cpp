@@ -14,8 +14,8 @@
 namespace tarnic {
 namespace {
 
-using testing::generalCommands;
-using testing::makeRecord;
+using test::generalCommands;
+using test::makeRecord;
 
 const std::string M = mark;
 

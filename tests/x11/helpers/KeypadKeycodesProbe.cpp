@@ -9,14 +9,14 @@
 
 int main() {
     const char* display = std::getenv("DISPLAY");
-    tarnic::testing::KeymapProbe probe(QString::fromLocal8Bit(display != nullptr ? display : ""));
+    tarnic::test::KeymapProbe probe(QString::fromLocal8Bit(display != nullptr ? display : ""));
     if (!probe.ok()) {
         std::fprintf(stderr, "keypad probe: cannot open the display\n");
         return 1;
     }
-    for (std::size_t slot = 0; slot < tarnic::testing::kSlotKeypadKeysyms.size(); ++slot) {
+    for (std::size_t slot = 0; slot < tarnic::test::kSlotKeypadKeysyms.size(); ++slot) {
         for (const unsigned keycode :
-             probe.keycodesWithOnly(tarnic::testing::kSlotKeypadKeysyms[slot])) {
+             probe.keycodesWithOnly(tarnic::test::kSlotKeypadKeysyms[slot])) {
             std::printf("digit %zu %u\n", slot + 1, keycode);
         }
     }

@@ -20,6 +20,8 @@ struct AbilityRow {
     std::vector<std::string_view> hotkeyLines;
 };
 
+// The rows of tools/catalogue/abilities.tsv, the list the catalogue's tables are generated from,
+// read once. A file that cannot be read or a row that does not fit fails the test that asks.
 const std::vector<AbilityRow>& abilityRows();
 
 } // namespace tarnic::test

@@ -2,10 +2,13 @@
 
 #include "core/catalogue/Catalogue.h"
 
+#include <span>
+#include <string_view>
+
 namespace tarnic {
 
-// Every record of the catalogue by its own name, in catalogue order. Each is the element of
-// all_data() at its row, so it is built on first use like the rest of the catalogue.
+// Every record of the catalogue by its own name, in catalogue order, for the tests. Each is the
+// element of all_data() at its row, so it is built on first use like the rest of the catalogue.
 const AbilityRecord& move_();
 const AbilityRecord& attack_();
 const AbilityRecord& stop_();
@@ -166,5 +169,14 @@ const AbilityRecord& volcano_();
 const AbilityRecord& cargoload_();
 const AbilityRecord& cargounload_();
 const AbilityRecord& kaboom_();
+
+// A record's name beside its accessor.
+struct NamedRecord {
+    std::string_view name;
+    const AbilityRecord& (*record)();
+};
+
+// All 160, in catalogue order.
+std::span<const NamedRecord> namedRecords();
 
 } // namespace tarnic
