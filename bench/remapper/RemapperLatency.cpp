@@ -7,7 +7,8 @@
 //     its start-up check), slot 1 bound to Q in its store, tapping on a keycode of its own;
 //   - xbindkeys running `xdotool key KP_7`, on E, as a point of comparison.
 // They take turns in rounds, each round giving every tool the same presses: the same count, the
-// same spacing, typed through XTest.
+// same spacing, typed through XTest. The floor and the application alternate press by press
+// within a round, so that the machine's other work falls on both alike.
 //
 // The moments of each press, all CLOCK_MONOTONIC:
 //   press   the bench sends the trigger's press;
@@ -43,6 +44,7 @@
 #include <functional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 // Last: Xlib's macros break the Qt headers.
@@ -107,20 +109,30 @@ Percentiles percentiles(std::vector<long long> values) {
     return result;
 }
 
-// Types `count` taps of `trigger`, `spacingMs` apart; returns the send times. Reads the key log
-// between taps, so that it never waits for a full pipe.
-std::vector<long long> type(XTestDriver& driver, LineProcess& log, unsigned trigger, int count,
-                            int spacingMs) {
-    std::vector<long long> sent;
-    sent.reserve(static_cast<std::size_t>(count));
+// Types `count` taps of each of `triggers`, taking turns press by press, `spacingMs` apart;
+// returns the send times, per trigger. Reads the key log between taps, so that it never waits
+// for a full pipe.
+std::vector<std::vector<long long>> typeInTurn(XTestDriver& driver, LineProcess& log,
+                                               const std::vector<unsigned>& triggers, int count,
+                                               int spacingMs) {
+    std::vector<std::vector<long long>> sent(triggers.size());
     const long long start = now() + 20000000LL;
+    long long slot = 0;
     for (int i = 0; i < count; ++i) {
-        sleepUntil(start + static_cast<long long>(i) * spacingMs * 1000000LL);
-        sent.push_back(now());
-        driver.tap(trigger);
-        log.lines();
+        for (std::size_t t = 0; t < triggers.size(); ++t, ++slot) {
+            sleepUntil(start + slot * spacingMs * 1000000LL);
+            sent[t].push_back(now());
+            driver.tap(triggers[t]);
+            log.lines();
+        }
     }
     return sent;
+}
+
+// Types `count` taps of `trigger`, `spacingMs` apart; returns the send times.
+std::vector<long long> type(XTestDriver& driver, LineProcess& log, unsigned trigger, int count,
+                            int spacingMs) {
+    return typeInTurn(driver, log, {trigger}, count, spacingMs).front();
 }
 
 // The receipt times of the key presses `keypads` accepts, in the key log from line `from`.
@@ -399,19 +411,49 @@ int main(int argc, char** argv) {
         }
     }
 
+    // The floor and the application take turns press by press, so that whatever else the machine
+    // does at a moment falls on both alike; which of them goes first changes from round to round.
+    // xbindkeys, whose taps take milliseconds, has a turn of its own.
     bool allArrived = true;
     for (int round = 0; round < rounds; ++round) {
-        for (Tool& tool : tools) {
-            const int from = log.lines().size();
-            const long long start = now();
-            const std::vector<long long> sent = type(driver, log, tool.trigger, presses, spacingMs);
-            allArrived = waitForKeypadReleases(log, keypads, from, presses, 15s) && allArrived;
+        std::vector<std::size_t> pair = {0, 1};
+        if (round % 2 == 1) {
+            std::swap(pair[0], pair[1]);
+        }
+        const int from = log.lines().size();
+        const long long start = now();
+        const std::vector<std::vector<long long>> sent = typeInTurn(
+            driver, log, {tools[pair[0]].trigger, tools[pair[1]].trigger}, presses, spacingMs);
+        allArrived = waitForKeypadReleases(log, keypads, from, 2 * presses, 15s) && allArrived;
+        const std::vector<long long> arrivals = keypadPresses(log, from, keypads);
+        const std::vector<long long> keypadsRecorded = recorder.pressesOf(keypads, start);
+        for (std::size_t turn = 0; turn < pair.size(); ++turn) {
+            Tool& tool = tools[pair[turn]];
+            // Every press answered: the arrivals take turns as the presses did.
+            std::vector<long long> own;
+            if (arrivals.size() == 2 * static_cast<std::size_t>(presses)) {
+                for (std::size_t i = turn; i < arrivals.size(); i += 2) {
+                    own.push_back(arrivals[i]);
+                }
+            }
             const unsigned trigger = tool.trigger;
-            account(tool, sent,
+            account(tool, sent[turn],
                     recorder.pressesOf([trigger](unsigned keycode) { return keycode == trigger; },
                                        start),
-                    recorder.pressesOf(keypads, start), keypadPresses(log, from, keypads));
+                    keypadsRecorded, own);
         }
+
+        Tool& peerTool = tools[2];
+        const int peerFrom = log.lines().size();
+        const long long peerStart = now();
+        const std::vector<long long> peerSent =
+            type(driver, log, peerTool.trigger, presses, spacingMs);
+        allArrived = waitForKeypadReleases(log, keypads, peerFrom, presses, 15s) && allArrived;
+        const unsigned peerTrigger = peerTool.trigger;
+        account(peerTool, peerSent,
+                recorder.pressesOf(
+                    [peerTrigger](unsigned keycode) { return keycode == peerTrigger; }, peerStart),
+                recorder.pressesOf(keypads, peerStart), keypadPresses(log, peerFrom, keypads));
     }
     peer.stop();
     kill(static_cast<pid_t>(floor.processId()), SIGTERM);

@@ -72,9 +72,10 @@ void X11EventPump::removeListener(int id) {
 
 void X11EventPump::readPending() {
     const std::lock_guard lock(*lock_);
-    if (reading_) {
+    if (reading_ || (inKeyScope_ && readInKeyScope_)) {
         return;
     }
+    readInKeyScope_ = inKeyScope_;
     reading_ = true;
     bool any = false;
     // QueuedAfterReading reads what the socket holds without waiting; no request goes out.

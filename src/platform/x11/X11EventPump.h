@@ -46,6 +46,23 @@ public:
     // already reads at once.
     void readPending();
 
+    // While one lives, on the key thread, the first readPending() reads and the others return at
+    // once: every event that came before the keys being handled was in the socket by the time
+    // their recording was read, so one reading per batch of keys takes them all in.
+    class KeyScope {
+    public:
+        explicit KeyScope(X11EventPump& pump) : pump_(pump) {
+            pump_.inKeyScope_ = true;
+            pump_.readInKeyScope_ = false;
+        }
+        ~KeyScope() { pump_.inKeyScope_ = false; }
+        KeyScope(const KeyScope&) = delete;
+        KeyScope& operator=(const KeyScope&) = delete;
+
+    private:
+        X11EventPump& pump_;
+    };
+
 private:
     // A reading the main thread wants once the key thread lets go of the lock: when it holds it
     // for long, it is tried again a little later instead of waiting.
@@ -62,6 +79,9 @@ private:
     std::vector<Listener> listeners_;
     int nextId_ = 1;
     bool reading_ = false;
+    // Set by a KeyScope; both read and written under the key-path lock only.
+    bool inKeyScope_ = false;
+    bool readInKeyScope_ = false;
     std::unique_ptr<QSocketNotifier> notifier_;
 };
 

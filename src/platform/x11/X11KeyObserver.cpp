@@ -1,6 +1,7 @@
 #include "platform/x11/X11KeyObserver.h"
 
 #include "platform/x11/X11Connection.h"
+#include "platform/x11/X11EventPump.h"
 
 #include <X11/Xlib.h>
 #include <X11/Xproto.h>
@@ -91,6 +92,7 @@ X11KeyObserver::X11KeyObserver(std::shared_ptr<X11Connection> control, const cha
         recording_ = false;
         return;
     }
+    pump_ = &control_->eventPump();
     keyThread_ = std::thread([this] { runKeyThread(); });
 }
 
@@ -140,7 +142,10 @@ void X11KeyObserver::runKeyThread() {
             // Reads whatever the socket holds and calls receive() for each complete reply. A
             // socket the server closed ends the process from within (the I/O error handler).
             const std::lock_guard lock(*control_->lock());
+            const X11EventPump::KeyScope oneReading(*pump_);
             XRecordProcessReplies(recordDisplay);
+            // Whatever the handlers queued on the main connection goes out now.
+            XFlush(control_->display());
         }
     }
 }

@@ -12,6 +12,7 @@ struct _XDisplay;
 namespace tarnic::x11 {
 
 class X11Connection;
+class X11EventPump;
 
 // Observes every key the X server receives, through the RECORD extension, without taking it
 // from the window it goes to. The recording runs on a connection of its own that carries no
@@ -61,6 +62,8 @@ private:
     // Written to once, to wake the key thread for its end.
     int stopFd_ = -1;
     std::thread keyThread_;
+    // The control connection's event pump, made on the main thread before the key thread starts.
+    X11EventPump* pump_ = nullptr;
 };
 
 } // namespace tarnic::x11

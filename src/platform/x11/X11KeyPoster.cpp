@@ -39,8 +39,10 @@ void X11KeyPoster::postKeyDown(std::uint16_t keyCode) {
     if (const std::optional<unsigned> own = keypad_ ? keypad_->keycodeFor(keyCode) : std::nullopt) {
         ownDownKeyCode_ = keyCode;
         ownDownKeycode_ = *own;
+        // Not flushed: a slot's key-down is followed at once by its key-up, and the two go out in
+        // one write, so the server takes the whole tap in one go. The key thread flushes after
+        // every batch of keys all the same.
         XTestFakeKeyEvent(display, *own, True, CurrentTime);
-        XFlush(display);
         return;
     }
     const std::optional<unsigned> xKeycode = xKeycodeOfMacKeyCode(keyCode);

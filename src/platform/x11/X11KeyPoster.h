@@ -12,7 +12,8 @@ class X11KeypadKeycodes;
 
 // Posts keys through XTest on the backend's main connection, so the X server takes them as
 // keyboard input and gives them to whichever window has the focus. Each event is flushed at
-// once. Held modifiers stay held: a Shift the player holds goes with the posted key.
+// once, except a slot key's key-down, which goes out with its key-up (see postKeyDown). Held
+// modifiers stay held: a Shift the player holds goes with the posted key.
 //
 // The inventory slots' keypad keys go out on keycodes of the program's own (X11KeypadKeycodes),
 // which are the keypad digit whatever the modifiers and Num Lock; Num Lock is not touched.
@@ -27,6 +28,7 @@ public:
     X11KeyPoster(std::shared_ptr<X11Connection> connection,
                  std::shared_ptr<X11KeypadKeycodes> keypad);
 
+    // A slot key's key-down is left for its key-up to flush, which follows it at once.
     void postKeyDown(std::uint16_t keyCode) override;
     void postKeyUp(std::uint16_t keyCode) override;
 
