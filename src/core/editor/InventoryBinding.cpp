@@ -6,6 +6,10 @@
 namespace tarnic {
 
 InventoryDisplay displayOf(const InventoryModel& model) {
+    return displayOf(model, KeyNames());
+}
+
+InventoryDisplay displayOf(const InventoryModel& model, const KeyNames& names) {
     InventoryDisplay shown{select, false};
     if (model.empty()) {
         return shown;
@@ -14,28 +18,31 @@ InventoryDisplay displayOf(const InventoryModel& model) {
         fatalError(kIndexOutOfRange,
                    "inventory binding has " + std::to_string(model.size()) + " elements, needs 3");
     }
-    for (const auto& [code, label] : key_codes()) {
-        if (code == model[2]) {
-            shown.title = label;
-        }
+    if (std::optional<std::string> name = names.nameOf(model[2])) {
+        shown.title = std::move(*name);
     }
     shown.shift = model[1] != kNoModifier;
     return shown;
 }
 
 std::int64_t triggerCodeOf(std::string_view title) {
-    std::int64_t code = kNoKey;
-    for (const auto& [keyCode, label] : key_codes()) {
-        if (label == title) {
-            code = keyCode;
-        }
-    }
-    return code;
+    return triggerCodeOf(title, KeyNames());
+}
+
+std::int64_t triggerCodeOf(std::string_view title, const KeyNames& names) {
+    // Names are unique, so the first match is the only one.
+    const std::optional<int> code = names.codeOf(title);
+    return code ? *code : kNoKey;
 }
 
 std::optional<InventoryModel> bindingFrom(std::int64_t editing, std::string_view title,
                                           bool shift) {
-    const std::int64_t key = triggerCodeOf(title);
+    return bindingFrom(editing, title, shift, KeyNames());
+}
+
+std::optional<InventoryModel> bindingFrom(std::int64_t editing, std::string_view title, bool shift,
+                                          const KeyNames& names) {
+    const std::int64_t key = triggerCodeOf(title, names);
     const std::int64_t modifier = shift ? kShiftModifier : kNoModifier;
     if (editing < 1 || editing > 6) {
         return std::nullopt;
@@ -63,6 +70,10 @@ bool neverTaps(const InventoryModel& model) {
 } // namespace
 
 std::string slotTitle(int slot, const InventoryModel& model) {
+    return slotTitle(slot, model, KeyNames());
+}
+
+std::string slotTitle(int slot, const InventoryModel& model, const KeyNames& names) {
     std::string title = "Slot " + std::to_string(slot) + "  ";
     if (model.empty()) {
         return title + "none";
@@ -70,7 +81,7 @@ std::string slotTitle(int slot, const InventoryModel& model) {
     if (model.size() < 3 || neverTaps(model)) {
         return title + "(damaged)";
     }
-    const InventoryDisplay shown = displayOf(model);
+    const InventoryDisplay shown = displayOf(model, names);
     if (shown.shift) {
         title += "Shift+";
     }

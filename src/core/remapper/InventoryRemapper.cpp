@@ -82,10 +82,19 @@ void InventoryRemapper::action(const InventoryModel& model, int keyPrss) {
     // Shift, 60, never stands for a left-Shift binding, 56).
     if (isFlag && flagHold == element(model, 1) && keyPrss == element(model, 2)) {
         inventoryPress(element(model, 0));
+        tapped(model);
     }
     // Without a modifier: fires on its key whatever is held. Made independently of the first.
     if (keyPrss == element(model, 2) && element(model, 1) == 0) {
         inventoryPress(element(model, 0));
+        tapped(model);
+    }
+}
+
+void InventoryRemapper::tapped(const InventoryModel& model) {
+    // Told after the tap, and only of a slot that was tapped: reporting adds nothing before it.
+    if (tapListener_ != nullptr && keypadKeyOfSlot(model[0])) {
+        tapListener_->slotTapped({model[0], model[1], model[2]});
     }
 }
 

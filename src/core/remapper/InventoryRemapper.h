@@ -2,6 +2,7 @@
 
 #include "core/platform/FrontmostApplication.h"
 #include "core/platform/KeyPoster.h"
+#include "core/remapper/TapListener.h"
 
 #include <array>
 #include <cstdint>
@@ -83,12 +84,19 @@ public:
     void keyboardKeyDown(std::uint16_t key);
     void keyboardKeyUp(std::uint16_t key);
 
+    // Told of every tap from now on, after its keypad key went out; null: nobody. It must
+    // outlive the remapper, or be unset first.
+    void setTapListener(TapListener* listener) { tapListener_ = listener; }
+
 private:
+    void tapped(const InventoryModel& model);
+
     void followChatLine(int keyCode);
 
     const Models& inventoryModels_;
     KeyPoster& poster_;
     const InventoryOptions& options_;
+    TapListener* tapListener_ = nullptr;
 };
 
 } // namespace tarnic
