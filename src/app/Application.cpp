@@ -52,12 +52,14 @@ Application::Application(Platform platform, Options options)
     : options_(std::move(options)), fatalAlerts_(options_.alerts), storeReading_(readStore()),
       platform_(std::move(platform)), store_(FatalAlerts::take(storeReading_)),
       programOptions_(openProgramOptions()), controller_(*store_, *programOptions_),
+      tapRelay_([this](const SlotTap& tap) { controller_.showTap(tap); }),
       remapperSession_(controller_.inventoryModels, controller_.inventoryOptions, platform_),
       delegate_(*platform_.accessibilityTrust, options_.siteUrl,
                 options_.alerts != nullptr ? *options_.alerts : messageBoxes_) {
     QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &delegate_,
                      &AppDelegate::applicationWillTerminate);
     window_.connectController(controller_);
+    remapperSession_.remapper().setTapListener(&tapRelay_);
     // The import reports through the same seam as the version gate.
     controller_.setAlerts(options_.alerts != nullptr ? *options_.alerts : messageBoxes_);
 }
@@ -65,6 +67,12 @@ Application::Application(Platform platform, Options options)
 Application::~Application() = default;
 
 void Application::start() {
+    // The keys are named as the player's layout prints them from the first frame on, and again
+    // at every change of layout.
+    keyNames_ = std::make_unique<LayoutKeyNames>(platform_.keyLabels.get());
+    controller_.setKeyNames(keyNames_->names());
+    QObject::connect(keyNames_.get(), &LayoutKeyNames::changed, &controller_,
+                     [this] { controller_.setKeyNames(keyNames_->names()); });
     controller_.viewDidLoad();
     controller_.showInventoryStatus(*platform_.accessibilityTrust);
     // The inventory remapper: watch the keys of other applications (key-down, then modifier
@@ -72,6 +80,8 @@ void Application::start() {
     remapperSession_.installObservers();
     gameDetectionTimer_ = std::make_unique<GameDetectionTimer>(remapperSession_, nullptr,
                                                                options_.gameDetectionInterval);
+    QObject::connect(gameDetectionTimer_.get(), &GameDetectionTimer::ticked, &controller_,
+                     [this] { controller_.showGameRunning(remapperSession_.remapper().isWarRun); });
     window_.show();
     controller_.viewDidAppear();
     AlertPresenter& alerts = options_.alerts != nullptr ? *options_.alerts : messageBoxes_;

@@ -3,7 +3,9 @@
 #include "app/AfterFirstPaint.h"
 #include "core/platform/Platform.h"
 #include "core/remapper/RemapperSession.h"
+#include "gui/LayoutKeyNames.h"
 #include "gui/MainWindow.h"
+#include "gui/TapRelay.h"
 #include "gui/ViewController.h"
 #include "platform/timer/GameDetectionTimer.h"
 #include "shell/AppDelegate.h"
@@ -63,6 +65,7 @@ public:
     RemapperSession& remapperSession() { return remapperSession_; }
     // Null until start().
     GameDetectionTimer* gameDetectionTimer() { return gameDetectionTimer_.get(); }
+    TapRelay& tapRelay() { return tapRelay_; }
     MainWindow& window() { return window_; }
     AppDelegate& delegate() { return delegate_; }
 
@@ -79,10 +82,15 @@ private:
     std::unique_ptr<QSettings> store_;
     std::unique_ptr<QSettings> programOptions_;
     ViewController controller_;
+    // Before the session: the remapper tells it of every tap until the session is gone. It shows
+    // them in the controller's line under the slots.
+    TapRelay tapRelay_;
     // After the controller: it reads the controller's six bindings and the options on every key
     // press.
     RemapperSession remapperSession_;
     std::unique_ptr<GameDetectionTimer> gameDetectionTimer_;
+    // The keys' names as the player's layout prints them; made by start().
+    std::unique_ptr<LayoutKeyNames> keyNames_;
     std::unique_ptr<AfterFirstPaint> afterFirstPaint_;
     MessageBoxAlertPresenter messageBoxes_;
     AppDelegate delegate_;

@@ -62,6 +62,9 @@ void MainWindow::connectController(ViewController& c) {
     c.inventStatusLbl = w.inventStatusLbl;
     c.onlyInGameBox = w.onlyInGameBox;
     c.pauseInChatBox = w.pauseInChatBox;
+    c.gameStatusLbl = w.gameStatusLbl;
+    c.lastTapLbl = w.lastTapLbl;
+    c.gridFollowsBox = w.gridFollowsBox;
 
     // A pop-up changes a key only when the player picks from its list; the pick sends the
     // action, then the focus goes back to the table so that the arrow keys move through the
@@ -89,6 +92,7 @@ void MainWindow::connectController(ViewController& c) {
     connect(w.delBTN, &QPushButton::clicked, &c, &ViewController::eraseKey);
     connect(w.onlyInGameBox, &QCheckBox::clicked, &c, &ViewController::setOnlyWhileGameInFront);
     connect(w.pauseInChatBox, &QCheckBox::clicked, &c, &ViewController::setPauseWhileTypingInChat);
+    connect(w.gridFollowsBox, &QCheckBox::clicked, &c, &ViewController::setGridFollowsKeyboard);
 }
 
 } // namespace tarnic

@@ -4,6 +4,7 @@
 #include "core/editor/ClashRule.h"
 #include "core/editor/ExportText.h"
 #include "core/editor/GridLayout.h"
+#include "core/editor/GridLetters.h"
 #include "core/editor/InventoryBinding.h"
 #include "core/editor/InventoryStatus.h"
 #include "core/editor/KeyAssignment.h"
@@ -14,6 +15,7 @@
 #include "gui/AbilityTableView.h"
 #include "gui/ExportFile.h"
 #include "gui/GuiResources.h"
+#include "gui/InventoryPopupNames.h"
 #include "gui/Outlet.h"
 #include "gui/Pictures.h"
 #include "gui/PopUpTitles.h"
@@ -66,13 +68,8 @@ void ViewController::viewDidLoad() {
         keys.addItem(qs(title));
     }
     QComboBox& inventory = outlet(inventPopup, "inventPopup");
-    inventory.addItem(qs(select));
-    for (std::string_view title : keyboardKeysNum) {
-        inventory.addItem(qs(title));
-    }
-    for (std::string_view title : keyboardKeys) {
-        inventory.addItem(qs(title));
-    }
+    fillInventoryPopup(inventory, keyNames_);
+    viewLoaded_ = true;
 
     // The controller is the table's data source and delegate. The columns belong to the
     // window: it names them, as record keys, in the table's properties.
@@ -113,6 +110,21 @@ void ViewController::viewDidLoad() {
     inventoryOptions = options_.inventoryOptions();
     outlet(onlyInGameBox, "onlyInGameBox").setChecked(inventoryOptions.onlyWhileGameInFront);
     outlet(pauseInChatBox, "pauseInChatBox").setChecked(inventoryOptions.pauseWhileTypingInChat);
+    gridFollowsKeyboard_ = options_.gridFollowsKeyboard();
+    outlet(gridFollowsBox, "gridFollowsBox").setChecked(gridFollowsKeyboard_);
+    tapStatus_.attach(&outlet(gameStatusLbl, "gameStatusLbl"), &outlet(lastTapLbl, "lastTapLbl"));
+}
+
+void ViewController::setKeyNames(const KeyNames& names) {
+    keyNames_ = names;
+    tapStatus_.setKeyNames(keyNames_);
+    if (!viewLoaded_) {
+        return;
+    }
+    nameInventoryKeys(outlet(inventPopup, "inventPopup"), keyNames_);
+    for (int n = 1; n <= 6; ++n) {
+        showSlotTitle(n);
+    }
 }
 
 void ViewController::showInventoryStatus(const AccessibilityTrust& trust) {
@@ -195,7 +207,7 @@ void ViewController::resetToDef() {
 }
 
 void ViewController::allQWER() {
-    tarnic::allQWER(mainDic);
+    tarnic::allQWER(mainDic, gridFollowsKeyboard_ ? gridLettersOf(keyNames_) : qwerLetters());
     reloadData();
     storeMainDic();
     syncKeysPopup();
@@ -311,31 +323,12 @@ Alert ViewController::importFrom(const QString& path) {
 void ViewController::showSlotTitle(int slot) {
     const auto index = static_cast<std::size_t>(slot - 1);
     outlet(inventButtons.at(index), "invent" + std::to_string(slot))
-        .setText(qs(slotTitle(slot, inventoryModels.at(index))));
+        .setText(qs(slotTitle(slot, inventoryModels.at(index), keyNames_)));
 }
 
 void ViewController::invent(std::int64_t slot) {
     inventoryEditNow = slot;
     display(inventoryModels[static_cast<std::size_t>(slot - 1)]);
-}
-
-void ViewController::invent1() {
-    invent(1);
-}
-void ViewController::invent2() {
-    invent(2);
-}
-void ViewController::invent3() {
-    invent(3);
-}
-void ViewController::invent4() {
-    invent(4);
-}
-void ViewController::invent5() {
-    invent(5);
-}
-void ViewController::invent6() {
-    invent(6);
 }
 
 void ViewController::display(const InventoryModel& model) {
@@ -347,7 +340,7 @@ void ViewController::display(const InventoryModel& model) {
     if (model.empty()) {
         return;
     }
-    const InventoryDisplay shown = displayOf(model);
+    const InventoryDisplay shown = displayOf(model, keyNames_);
     selectItemWithTitle(outlet(inventPopup, "inventPopup"), shown.title);
     outlet(isShiftBox, "isShiftBox").setChecked(shown.shift);
 }
@@ -360,7 +353,8 @@ void ViewController::setInventory() {
     const std::string title =
         selectedTitle(outlet(inventPopup, "inventPopup")).value_or(std::string());
     const bool shift = outlet(isShiftBox, "isShiftBox").checkState() != Qt::Unchecked;
-    if (std::optional<InventoryModel> binding = bindingFrom(inventoryEditNow, title, shift)) {
+    if (std::optional<InventoryModel> binding =
+            bindingFrom(inventoryEditNow, title, shift, keyNames_)) {
         const auto slot = static_cast<int>(inventoryEditNow);
         inventoryModels[static_cast<std::size_t>(slot - 1)] = *binding;
         storeWritten(defaults_.setInventoryModel(slot, *binding));
@@ -392,6 +386,11 @@ void ViewController::setOnlyWhileGameInFront() {
 void ViewController::setPauseWhileTypingInChat() {
     inventoryOptions.pauseWhileTypingInChat = outlet(pauseInChatBox, "pauseInChatBox").isChecked();
     options_.setPauseWhileTypingInChat(inventoryOptions.pauseWhileTypingInChat);
+}
+
+void ViewController::setGridFollowsKeyboard() {
+    gridFollowsKeyboard_ = outlet(gridFollowsBox, "gridFollowsBox").isChecked();
+    options_.setGridFollowsKeyboard(gridFollowsKeyboard_);
 }
 
 } // namespace tarnic

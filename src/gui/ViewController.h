@@ -3,9 +3,12 @@
 #include "core/platform/AccessibilityTrust.h"
 #include "core/record/AbilityRecord.h"
 #include "core/remapper/InventoryRemapper.h"
+#include "core/remapper/TapListener.h"
 #include "core/vocabulary/KeyCodes.h"
+#include "core/vocabulary/KeyNames.h"
 #include "gui/AbilityTableModel.h"
 #include "gui/FileDialog.h"
+#include "gui/TapStatusPresenter.h"
 #include "shell/AlertPresenter.h"
 #include "store/ProgramOptions.h"
 #include "store/UserDefaults.h"
@@ -70,6 +73,11 @@ public:
     QPointer<QLabel> inventStatusLbl;
     QPointer<QCheckBox> onlyInGameBox;
     QPointer<QCheckBox> pauseInChatBox;
+    // Whether the game was found, and what the last tap did (it fades), under the slots.
+    QPointer<QLabel> gameStatusLbl;
+    QPointer<QLabel> lastTapLbl;
+    // "Grid follows my keyboard", under the Grid layout button.
+    QPointer<QCheckBox> gridFollowsBox;
 
     // The working list, one table row per record, in list order.
     std::vector<AbilityRecord> mainDic;
@@ -90,6 +98,15 @@ public:
     void viewDidAppear();
     // Says under the slots whether the inventory keys can work, from the platform's trust.
     void showInventoryStatus(const AccessibilityTrust& trust);
+    // Names the keys as the player's layout prints them: the inventory pop-up, the slot buttons,
+    // the last tap, and the letters of the next grid layout when it follows the keyboard. Stored
+    // bindings do not change.
+    void setKeyNames(const KeyNames& names);
+    const KeyNames& keyNames() const { return keyNames_; }
+    // What the last tap did, and whether the game was found at the last look.
+    void showTap(const SlotTap& tap) { tapStatus_.showTap(tap); }
+    void showGameRunning(bool running) { tapStatus_.showGameRunning(running); }
+    TapStatusPresenter& tapStatus() { return tapStatus_; }
 
     // The file dialogs of the export and the import; tests answer them through here.
     FileDialog& fileDialog() { return fileDialog_; }
@@ -105,15 +122,17 @@ public:
     // The two options' check boxes: each keeps and stores what its box shows.
     void setOnlyWhileGameInFront();
     void setPauseWhileTypingInChat();
+    // The "Grid follows my keyboard" box: kept and stored; it changes only the next grid layout.
+    void setGridFollowsKeyboard();
     void setInventoryKeyBox();
     void setInventoryKey();
-    void invent1();
+    void invent1() { invent(1); }
     void display(const InventoryModel& model);
-    void invent2();
-    void invent3();
-    void invent4();
-    void invent5();
-    void invent6();
+    void invent2() { invent(2); }
+    void invent3() { invent(3); }
+    void invent4() { invent(4); }
+    void invent5() { invent(5); }
+    void invent6() { invent(6); }
     void setKey();
     // Ends the application; nothing is saved at this point.
     void windowWillClose();
@@ -166,6 +185,10 @@ private:
     AbilityTableModel tableModel_;
     FileDialog fileDialog_;
     QPointer<QWidget> window_;
+    KeyNames keyNames_;
+    TapStatusPresenter tapStatus_;
+    bool gridFollowsKeyboard_ = false;
+    bool viewLoaded_ = false;
 };
 
 } // namespace tarnic
