@@ -56,15 +56,18 @@ X11KeyLabels::X11KeyLabels(std::shared_ptr<X11Connection> connection)
                               XkbGroupStateMask);
         reread();
     }
+    // Under XWayland every tap after a key of the physical keyboard makes the server announce a
+    // keymap change (the master keyboard switches devices) while nothing changed: the layout is
+    // read again a moment after a burst of notifications, once for all of them, and never right
+    // after a tap, when the next key press may be on its way.
+    settle_.setSingleShot(true);
+    settle_.setInterval(kSettleTime);
+    QObject::connect(&settle_, &QTimer::timeout, [this] { rereadAndTell(); });
     X11EventPump& pump = connection_->eventPump();
     listener_ = pump.addListener([this](XEvent& event) { takeIn(event); },
                                  [this] {
-                                     if (std::exchange(changed_, false) && reread()) {
-                                         // By index and by copy: a handler may add another.
-                                         for (std::size_t i = 0; i < handlers_.size(); ++i) {
-                                             const Handler handler = handlers_[i];
-                                             handler();
-                                         }
+                                     if (std::exchange(changed_, false) && !settle_.isActive()) {
+                                         settle_.start();
                                      }
                                  });
 }
@@ -87,6 +90,21 @@ void X11KeyLabels::addChangeMonitor(Handler handler) {
 
 void X11KeyLabels::takeInChanges() {
     connection_->eventPump().readPending();
+    if (settle_.isActive()) {
+        settle_.stop();
+        rereadAndTell();
+    }
+}
+
+void X11KeyLabels::rereadAndTell() {
+    if (!reread()) {
+        return;
+    }
+    // By index and by copy: a handler may add another.
+    for (std::size_t i = 0; i < handlers_.size(); ++i) {
+        const Handler handler = handlers_[i];
+        handler();
+    }
 }
 
 void X11KeyLabels::takeIn(XEvent& event) {

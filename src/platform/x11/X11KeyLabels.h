@@ -2,6 +2,9 @@
 
 #include "core/platform/KeyLabels.h"
 
+#include <QTimer>
+
+#include <chrono>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -21,9 +24,9 @@ class X11Connection;
 // Read once here and again after each change the server announces on the main connection: XKB's
 // new-keyboard and map notifications, the core MappingNotify, and XKB's state notification when
 // the group changes (a layout switch with a group toggle such as Alt+Shift). The notifications are
-// read by the connection's event pump on the event loop; one batch of them costs one new reading
-// (a round trip), and the change monitors are told only when a keysym of a key position differs.
-// Nothing here runs on the key path.
+// read by the connection's event pump on the event loop; the layout is read again (one round trip)
+// kSettleTime after the first of them, once for all that came meanwhile, and the change monitors
+// are told only when a keysym of a key position differs. Nothing here runs on the key path.
 //
 // Without XKB on the server no layout is known: every position answers none.
 class X11KeyLabels : public KeyLabels {
@@ -37,13 +40,17 @@ public:
     std::optional<std::uint32_t> keysymAt(int macKeyCode) const override;
     void addChangeMonitor(Handler handler) override;
 
-    // Reads the notifications that have arrived and, after a change, the layout again.
+    static constexpr std::chrono::milliseconds kSettleTime{150};
+
+    // Reads the notifications that have arrived and, after a change, the layout again at once,
+    // without waiting for kSettleTime.
     void takeInChanges();
 
 private:
     void takeIn(_XEvent& event);
     // Reads the layout; true when a key position's keysym changed.
     bool reread();
+    void rereadAndTell();
 
     std::shared_ptr<X11Connection> connection_;
     std::map<int, std::uint32_t> keysyms_;
@@ -51,6 +58,7 @@ private:
     int xkbEventBase_ = -1;
     bool changed_ = false;
     int listener_ = 0;
+    QTimer settle_;
 };
 
 } // namespace tarnic::x11
