@@ -3,8 +3,8 @@
 // keycode of its own. On one private Xvfb, in one run, three tools are bound to keypad 7, each
 // on a trigger key of its own so that one press wakes exactly one of them:
 //   - the floor, on W;
-//   - the remapper: the stand-in application (the X11 backend and the remapper session the
-//     application runs), slot 1 bound to Q, tapping on a keycode of its own;
+//   - the application itself (the installed program, its window up, the loopback site serving
+//     its start-up check), slot 1 bound to Q in its store, tapping on a keycode of its own;
 //   - xbindkeys running `xdotool key KP_7`, on E, as a point of comparison.
 // They take turns in rounds, each round giving every tool the same presses: the same count, the
 // same spacing, typed through XTest.
@@ -30,7 +30,10 @@
 #include "support/XvfbSession.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
+#include <QProcess>
+#include <QProcessEnvironment>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -55,7 +58,7 @@ using tarnic::testing::LineProcess;
 using tarnic::testing::XTestDriver;
 using tarnic::testing::XvfbSession;
 
-constexpr unsigned kRemapperTrigger = 24; // Q, slot 1 of the stand-in (macOS code 12)
+constexpr unsigned kRemapperTrigger = 24; // Q, slot 1 of the application (macOS code 12)
 constexpr unsigned kFloorTrigger = 25;    // W
 constexpr unsigned kPeerTrigger = 26;     // E
 constexpr unsigned kNumLock = 77;
@@ -315,16 +318,54 @@ int main(int argc, char** argv) {
         return 1;
     }
 
-    LineProcess harness;
-    harness.start(TARNIC_HARNESS_PATH, {"--quiet", "--bind", "1,0,12"}, server.environment());
-    if (harness.waitForPrefix("ready ", 0, 10s) < 0) {
-        std::fprintf(stderr, "the stand-in application did not start\n");
+    // The application, as a player runs it: its own store with slot 1 on Q, its start-up check
+    // answered by the loopback site.
+    LineProcess site;
+    site.start("python3",
+               {TARNIC_SITE_SERVER, QString::number(TARNIC_SITE_PORT), TARNIC_SITE_DIR, "20"},
+               server.environment(), LineProcess::Errors::Keep);
+    bool serving = false;
+    for (int wait = 0; wait < 300 && !serving; ++wait) {
+        serving = site.errorOutput().contains("serving");
+        if (!serving) {
+            site.waitForExit(100ms);
+        }
+    }
+    if (!serving) {
+        std::fprintf(stderr, "the loopback site did not come up on port %d\n", TARNIC_SITE_PORT);
+        return 1;
+    }
+    QTemporaryDir home;
+    QDir(home.path()).mkpath("config/Tarnic");
+    QDir(home.path()).mkpath("runtime");
+    QFile::setPermissions(home.filePath("runtime"),
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    {
+        QFile store(home.filePath("config/Tarnic/Tarnic Pro.plist"));
+        store.open(QIODevice::WriteOnly);
+        store.write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">\n"
+                    "<dict><key>inventoryModel1</key><array><integer>1</integer><integer>0"
+                    "</integer><integer>12</integer></array></dict>\n</plist>\n");
+    }
+    QProcessEnvironment appEnvironment = server.environment();
+    appEnvironment.insert("HOME", home.path());
+    appEnvironment.insert("XDG_CONFIG_HOME", home.filePath("config"));
+    appEnvironment.insert("XDG_RUNTIME_DIR", home.filePath("runtime"));
+    LineProcess app;
+    app.start(TARNIC_APP_PATH, {}, appEnvironment);
+    // Its window takes the focus as it appears; the key log gets it back once the window is up.
+    QProcess windowWait;
+    windowWait.setProcessEnvironment(server.environment());
+    windowWait.start("xdotool", {"search", "--sync", "--onlyvisible", "--name", "^Tarnic Pro$"});
+    if (!windowWait.waitForFinished(60000) || windowWait.exitCode() != 0) {
+        windowWait.kill();
+        std::fprintf(stderr, "the application's window did not appear\n");
         return 1;
     }
     KeymapProbe probe(server.display());
     const std::vector<unsigned> claimed = probe.recordedKeycodes();
     if (claimed.empty() || claimed[0] == 0) {
-        std::fprintf(stderr, "the stand-in claimed no keycode for keypad 7\n");
+        std::fprintf(stderr, "the application claimed no keycode for keypad 7\n");
         return 1;
     }
     const unsigned remapperKeypad = claimed[0];
@@ -349,7 +390,7 @@ int main(int argc, char** argv) {
     const KeyFilter keypads = isTap;
     driver.focus(logWindow, 5s);
     std::vector<Tool> tools{{"floor (RECORD + XTest, plain Xlib)", kFloorTrigger},
-                            {"remapper (stand-in application)", kRemapperTrigger},
+                            {"application (tarnic-pro)", kRemapperTrigger},
                             {"xbindkeys + xdotool key KP_7", kPeerTrigger}};
     for (const Tool& tool : tools) {
         if (!warmUp(driver, log, keypads, tool.trigger)) {
@@ -376,16 +417,17 @@ int main(int argc, char** argv) {
     kill(static_cast<pid_t>(floor.processId()), SIGTERM);
     floor.waitForExit(10s);
 
-    // A long, fast run of the remapper alone: no tap lost or left half done.
+    // A long, fast run of the application alone: no tap lost or left half done.
     int from = log.lines().size();
     type(driver, log, kRemapperTrigger, longPresses, longSpacingMs);
     const bool longArrived = waitForKeypadReleases(
         log, [&](unsigned keycode) { return keycode == remapperKeypad; }, from, longPresses, 300s);
     const LongRun longRun = collectLongRun(log, from, remapperKeypad);
-    kill(static_cast<pid_t>(harness.processId()), SIGTERM);
-    if (!harness.waitForExit(20s)) {
-        harness.stop();
+    kill(static_cast<pid_t>(app.processId()), SIGTERM);
+    if (!app.waitForExit(20s)) {
+        app.stop();
     }
+    site.stop();
 
     std::printf("\nRemapper latency against the floor under Xvfb, times in microseconds\n"
                 "%d rounds; in each, every tool in turn gets %d presses of its trigger, %d ms "
@@ -421,11 +463,11 @@ int main(int argc, char** argv) {
     const bool longComplete = longArrived && longRun.everyTapWhole &&
                               longRun.downs == longPresses && longRun.ups == longPresses &&
                               longRun.triggers == longPresses;
-    std::printf("\nlong run (remapper alone): %d presses %d ms apart: %d triggers, %d keypad "
+    std::printf("\nlong run (application alone): %d presses %d ms apart: %d triggers, %d keypad "
                 "downs, %d keypad ups, every tap one down then one up: %s, none lost: %s\n",
                 longPresses, longSpacingMs, longRun.triggers, longRun.downs, longRun.ups,
                 longRun.everyTapWhole ? "yes" : "NO", longComplete ? "yes" : "NO");
-    std::printf("\ntargets: remapper's added time at most 1.1x the floor's at p50 and p99: %s; "
+    std::printf("\ntargets: application's added time at most 1.1x the floor's at p50 and p99: %s; "
                 "long run complete: %s\n",
                 floorOk ? "met" : "NOT MET", longComplete ? "met" : "NOT MET");
     return 0;

@@ -43,9 +43,10 @@ std::pair<double, double> medianAndP99(std::vector<double> ns) {
 
 Figures run(tarnic::TapListener* listener, int taps) {
     NullPoster poster;
-    tarnic::InventoryRemapper::Models models;
-    models[0] = {1, 0, 12};
-    tarnic::InventoryRemapper remapper(models, poster);
+    tarnic::InventoryBindings models;
+    models.slotBindings[0] = tarnic::SlotBinding{1, 0, 12};
+    tarnic::InventoryRemapper remapper(poster);
+    remapper.setBindings(models);
     remapper.setTapListener(listener);
     std::vector<double> ns;
     std::vector<double> toTap;

@@ -9,5 +9,5 @@ scripts/deps.sh test
 build=build/bench
 cmake -S . -B "$build" -DCMAKE_BUILD_TYPE=Release >/dev/null
 cmake --build "$build" -j 2 --target bench_remapper_latency bench_remapper_floor \
-    tarnic_x11_harness tarnic_x11_keylog
+    tarnic-pro tarnic_x11_keylog
 "$build/bench/remapper/bench_remapper_latency" "$@"

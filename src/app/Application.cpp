@@ -11,17 +11,17 @@
 #include <QThread>
 #include <QTimer>
 
+#include <chrono>
+#include <mutex>
+
 namespace tarnic {
 
 namespace {
 
 const QString kDesktopId = QStringLiteral("org.tarnic.TarnicPro");
 
-// The first frame waits for nothing else; a window that opens covered still gets its icon soon.
-constexpr std::chrono::milliseconds kIconAtTheLatest{500};
-
 // Opens the store on another thread and hands it over to this one, where it is used. A first
-// start's store gets the catalogue there as well, just as the controller would store it when the
+// start's store gets the catalogue there as well, just as the editor would store it when the
 // view loads (it then finds the list already there): the write and its flushes to disk overlap
 // the building of the window instead of holding up the first frame.
 std::future<std::unique_ptr<QSettings>> readStore() {
@@ -51,50 +51,105 @@ Application::Options::Options() : siteUrl(siteBaseUrl()) {}
 Application::Application(Platform platform, Options options)
     : options_(std::move(options)), fatalAlerts_(options_.alerts), storeReading_(readStore()),
       platform_(std::move(platform)), store_(FatalAlerts::take(storeReading_)),
-      programOptions_(openProgramOptions()), controller_(*store_, *programOptions_),
-      tapRelay_([this](const SlotTap& tap) { controller_.showTap(tap); }),
-      remapperSession_(controller_.inventoryModels, controller_.inventoryOptions, platform_),
-      delegate_(*platform_.accessibilityTrust, options_.siteUrl,
-                options_.alerts != nullptr ? *options_.alerts : messageBoxes_) {
+      programOptions_(openProgramOptions()), editor_(*store_, programOptions_.get()),
+      // The import reports through the same seam as the version gate.
+      fileExchange_(editor_, alerts()),
+      inventoryPanel_(*store_, *programOptions_, inventoryBindings_),
+      tapRelay_([this](const SlotTap& tap) { inventoryPanel_.showTap(tap); }),
+      remapperSession_(platform_),
+      delegate_(*platform_.accessibilityTrust, options_.siteUrl, alerts()) {
     QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &delegate_,
                      &AppDelegate::applicationWillTerminate);
-    window_.connectController(controller_);
-    remapperSession_.remapper().setTapListener(&tapRelay_);
-    // The import reports through the same seam as the version gate.
-    controller_.setAlerts(options_.alerts != nullptr ? *options_.alerts : messageBoxes_);
+    window_.connectControllers(editor_, fileExchange_, inventoryPanel_);
+    {
+        // The relay is declared before the session, so it outlives every key the session hands
+        // to the remapper.
+        const std::lock_guard lock(remapperSession_.keyPathLock());
+        remapperSession_.remapper().setTapListener(&tapRelay_);
+    }
+    QObject::connect(
+        &inventoryPanel_, &InventoryPanelController::bindingsChanged, &inventoryPanel_,
+        [this](const InventoryBindings& bindings) { remapperSession_.setBindings(bindings); });
+    // A binding the panel stores takes along a list an earlier write could not store.
+    QObject::connect(&inventoryPanel_, &InventoryPanelController::storeWritten, &editor_,
+                     &EditorController::storeWritten);
 }
 
 Application::~Application() = default;
+
+AlertPresenter& Application::alerts() {
+    return options_.alerts != nullptr ? *options_.alerts : messageBoxes_;
+}
+
+void Application::setKeyNames() {
+    editor_.setKeyNames(keyNames_->names());
+    inventoryPanel_.setKeyNames(keyNames_->names());
+}
+
+void Application::showGameRunning() {
+    // The key thread may be handling a key: the remapper is read under its lock. Held much
+    // longer, the key thread waits for the main thread itself; this line waits for the next tick.
+    const std::unique_lock lock(remapperSession_.keyPathLock(), std::chrono::milliseconds(200));
+    if (lock.owns_lock()) {
+        inventoryPanel_.showGameRunning(remapperSession_.remapper().isWarRun);
+    }
+}
+
+void Application::windowWillClose() {
+    // Queued: the loop ends after the event that asked for it has been handled.
+    QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit,
+                              Qt::QueuedConnection);
+}
 
 void Application::start() {
     // The keys are named as the player's layout prints them from the first frame on, and again
     // at every change of layout.
     keyNames_ = std::make_unique<LayoutKeyNames>(platform_.keyLabels.get());
-    controller_.setKeyNames(keyNames_->names());
-    QObject::connect(keyNames_.get(), &LayoutKeyNames::changed, &controller_,
-                     [this] { controller_.setKeyNames(keyNames_->names()); });
-    controller_.viewDidLoad();
-    controller_.showInventoryStatus(*platform_.accessibilityTrust);
+    setKeyNames();
+    QObject::connect(keyNames_.get(), &LayoutKeyNames::changed, &window_,
+                     [this] { setKeyNames(); });
+    // The view loads: the bindings before the list, as a store of the wrong type must end the
+    // program the same way whichever key is damaged first.
+    inventoryPanel_.loadBindings();
+    editor_.viewDidLoad();
+    fileExchange_.viewDidLoad();
+    inventoryPanel_.viewDidLoad();
+    // Hiding the application ends it, as closing the window does.
+    QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &window_,
+                     [](Qt::ApplicationState state) {
+                         if (state == Qt::ApplicationHidden) {
+                             windowWillClose();
+                         }
+                     });
+    inventoryPanel_.showInventoryStatus(*platform_.accessibilityTrust);
     // The inventory remapper: watch the keys of other applications (key-down, then modifier
     // changes) and look for the game every 2 seconds. Neither is ever removed.
     remapperSession_.installObservers();
     gameDetectionTimer_ = std::make_unique<GameDetectionTimer>(remapperSession_, nullptr,
                                                                options_.gameDetectionInterval);
-    QObject::connect(gameDetectionTimer_.get(), &GameDetectionTimer::ticked, &controller_,
-                     [this] { controller_.showGameRunning(remapperSession_.remapper().isWarRun); });
+    QObject::connect(gameDetectionTimer_.get(), &GameDetectionTimer::ticked, &inventoryPanel_,
+                     [this] { showGameRunning(); });
     window_.show();
-    controller_.viewDidAppear();
-    AlertPresenter& alerts = options_.alerts != nullptr ? *options_.alerts : messageBoxes_;
+    // From now on closing the window ends the application.
+    QObject::connect(&window_, &MainWindow::closing, &window_, &Application::windowWillClose);
+    AlertPresenter& alerts = this->alerts();
+    // Launching finishes once the window is on the screen: the version check shows a busy cursor,
+    // whose theme is read from disk, and waits for the site, and neither has a place in the
+    // first frame.
     afterFirstPaint_ = std::make_unique<AfterFirstPaint>(
-        *controller_.tableView->viewport(), kIconAtTheLatest,
+        *editor_.tableView().viewport(), options_.launchAtTheLatest,
         [this, &alerts, aside = storeSetAsideAs(*store_)] {
-            QApplication::setWindowIcon(QIcon::fromTheme(kDesktopId));
-            // Once, over the window: the player's list and bindings look lost until he reads this.
-            if (!aside.isEmpty()) {
-                alerts.show(storeSetAsideAlert(userDefaultsPath(), aside), &window_);
-            }
+            // Queued, so that it comes while the check waits for the site.
+            QTimer::singleShot(0, &window_, [this, &alerts, aside] {
+                QApplication::setWindowIcon(QIcon::fromTheme(kDesktopId));
+                // Once, over the window: the player's list and bindings look lost until he reads
+                // this.
+                if (!aside.isEmpty()) {
+                    alerts.show(storeSetAsideAlert(userDefaultsPath(), aside), &window_);
+                }
+            });
+            delegate_.applicationDidFinishLaunching();
         });
-    QTimer::singleShot(0, &delegate_, &AppDelegate::applicationDidFinishLaunching);
 }
 
 } // namespace tarnic

@@ -3,10 +3,12 @@
 #include "app/AfterFirstPaint.h"
 #include "core/platform/Platform.h"
 #include "core/remapper/RemapperSession.h"
+#include "gui/EditorController.h"
+#include "gui/FileExchangeController.h"
+#include "gui/InventoryPanelController.h"
 #include "gui/LayoutKeyNames.h"
 #include "gui/MainWindow.h"
 #include "gui/TapRelay.h"
-#include "gui/ViewController.h"
 #include "platform/timer/GameDetectionTimer.h"
 #include "shell/AppDelegate.h"
 #include "shell/FatalAlerts.h"
@@ -29,8 +31,10 @@ class AlertPresenter;
 void setApplicationIdentity();
 
 // The whole program, put together in one place, in start-up order: the store (read on a thread of
-// its own meanwhile) and the options file, the platform, the window with its menus, the controller
-// with the remapper session and its game-detection timer, and the delegate. `main` runs one; the
+// its own meanwhile) and the options file, the platform, the window with its menus, its three
+// controllers (the hotkey editor, the file exchange, the inventory panel), the remapper session
+// with its game-detection timer, and the delegate. Closing the window, or hiding the
+// application, ends it. `main` runs one; the
 // window tests run one on the recording fakes.
 class Application {
 public:
@@ -41,6 +45,9 @@ public:
         // Where the version gate's alert and the import's message go; null: a real message box.
         AlertPresenter* alerts = nullptr;
         std::chrono::milliseconds gameDetectionInterval{GameDetectionTimer::kIntervalMs};
+        // The first frame waits for nothing else; a window that opens covered, and so gets no
+        // paint, still finishes launching this long after start().
+        std::chrono::milliseconds launchAtTheLatest{500};
 
         Options();
     };
@@ -54,14 +61,19 @@ public:
 
     // Loads the view (the store's bindings and list, the template, row 0), installs the key
     // observers and the game-detection timer, and shows the window. Launching finishes once the
-    // event loop runs: the trust line, then the version gate. The application's icon is looked
-    // up in the icon theme once the table has painted: the lookup reads the theme's whole index,
-    // and nothing in the first frame shows the icon. Call once.
+    // table has painted (or, for a window that opens covered, `launchAtTheLatest` after the start):
+    // the trust line, then the version gate. The application's icon is looked up in the icon theme
+    // while the gate waits: the lookup reads the theme's whole index, and nothing in the first
+    // frame shows the icon. Call once.
     void start();
 
     QSettings& store() { return *store_; }
     Platform& platform() { return platform_; }
-    ViewController& controller() { return controller_; }
+    EditorController& editor() { return editor_; }
+    FileExchangeController& fileExchange() { return fileExchange_; }
+    InventoryPanelController& inventoryPanel() { return inventoryPanel_; }
+    // The inventory keys as the panel shows them; the remapper session has a copy.
+    const InventoryBindings& inventoryBindings() const { return inventoryBindings_; }
     RemapperSession& remapperSession() { return remapperSession_; }
     // Null until start().
     GameDetectionTimer* gameDetectionTimer() { return gameDetectionTimer_.get(); }
@@ -70,29 +82,41 @@ public:
     AppDelegate& delegate() { return delegate_; }
 
 private:
+    // Ends the application; nothing is saved at this point.
+    static void windowWillClose();
+    // Where alerts go: the tests' presenter, else real message boxes.
+    AlertPresenter& alerts();
+    // Hands the keys' names in the player's layout to the editor and the panel.
+    void setKeyNames();
+    // Under the slots: whether the game detection found the game at its last look.
+    void showGameRunning();
+
     Options options_;
     // First: from here on a fatal error is also shown in a message box.
     FatalAlerts fatalAlerts_;
     // The store is read on a thread of its own while the window is built: reading and parsing the
     // whole list is the largest piece of start-up that needs no GUI. It is waited for before the
-    // controller, the first to use it.
+    // controllers, the first to use it.
     std::future<std::unique_ptr<QSettings>> storeReading_;
     Platform platform_;
     MainWindow window_;
     std::unique_ptr<QSettings> store_;
     std::unique_ptr<QSettings> programOptions_;
-    ViewController controller_;
-    // Before the session: the remapper tells it of every tap until the session is gone. It shows
-    // them in the controller's line under the slots.
+    MessageBoxAlertPresenter messageBoxes_;
+    // The six slot bindings and their options: the panel edits them, and the remapper session
+    // gets a copy at every change.
+    InventoryBindings inventoryBindings_;
+    EditorController editor_;
+    FileExchangeController fileExchange_;
+    InventoryPanelController inventoryPanel_;
+    // Before the session: the remapper tells it of every tap, on the key thread, until the session
+    // is gone. It shows them in the panel's line under the slots.
     TapRelay tapRelay_;
-    // After the controller: it reads the controller's six bindings and the options on every key
-    // press.
     RemapperSession remapperSession_;
     std::unique_ptr<GameDetectionTimer> gameDetectionTimer_;
     // The keys' names as the player's layout prints them; made by start().
     std::unique_ptr<LayoutKeyNames> keyNames_;
     std::unique_ptr<AfterFirstPaint> afterFirstPaint_;
-    MessageBoxAlertPresenter messageBoxes_;
     AppDelegate delegate_;
 };
 

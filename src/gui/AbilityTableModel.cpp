@@ -8,6 +8,8 @@
 #include <QPixmap>
 #include <QStyle>
 
+#include <algorithm>
+
 namespace tarnic {
 
 AbilityTableModel::AbilityTableModel(const std::vector<AbilityRecord>& list, QObject* parent)
@@ -52,8 +54,25 @@ void AbilityTableModel::rowChanged(int row) {
 }
 
 void AbilityTableModel::setClashPartners(std::vector<std::vector<std::size_t>> partners) {
+    // Unchanged marks need no repaint; a repaint of the column would also have the views measure
+    // every row again for the column widths.
+    const auto partnersOf = [](const std::vector<std::vector<std::size_t>>& all, std::size_t row) {
+        return row < all.size() ? all[row] : std::vector<std::size_t>();
+    };
+    bool unchanged = true;
+    for (std::size_t row = 0; unchanged && row < std::max(partners.size(), clashPartners_.size());
+         ++row) {
+        unchanged = partnersOf(partners, row) == partnersOf(clashPartners_, row);
+    }
     clashPartners_ = std::move(partners);
-    if (clashIcon_.isNull()) {
+    if (unchanged) {
+        return;
+    }
+    // The warning sign comes from the icon theme, whose lookup reads the theme's whole index: it
+    // is fetched when the first clash needs it, not for a list without any.
+    const bool anyClash = std::any_of(clashPartners_.begin(), clashPartners_.end(),
+                                      [](const auto& row) { return !row.empty(); });
+    if (anyClash && clashIcon_.isNull()) {
         clashIcon_ = QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
     }
     const int column = static_cast<int>(identifiers_.indexOf(QLatin1String(new_hotkey)));

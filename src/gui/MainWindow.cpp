@@ -2,9 +2,12 @@
 
 #include "contact/ContactPanel.h"
 #include "gui/PopUpButton.h"
-#include "gui/ViewController.h"
+#include "gui/EditorController.h"
+#include "gui/FileExchangeController.h"
+#include "gui/InventoryPanelController.h"
 #include "ui_MainWindow.h"
 
+#include <QCloseEvent>
 #include <QLabel>
 #include <QStatusBar>
 
@@ -44,55 +47,69 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui_(new Ui::MainW
 
 MainWindow::~MainWindow() = default;
 
-void MainWindow::connectController(ViewController& c) {
+void MainWindow::closeEvent(QCloseEvent* event) {
+    emit closing();
+    QMainWindow::closeEvent(event);
+}
+
+void MainWindow::connectControllers(EditorController& editor, FileExchangeController& fileExchange,
+                                    InventoryPanelController& inventoryPanel) {
     Ui::MainWindow& w = *ui_;
-    c.tableView = w.tableView;
-    c.spellImage = w.spellImage;
-    c.spellLbl = w.spellLbl;
-    c.parentImage = w.parentImage;
-    c.parentLbl = w.parentLbl;
-    c.defHotkey = w.defHotkey;
-    c.keysPopup = w.keysPopup;
-    c.inventPopup = w.inventPopup;
-    c.isShiftBox = w.isShiftBox;
-    c.delBTN = w.delBTN;
-    c.clashLbl = findChild<QLabel*>(QStringLiteral("clashLbl"));
-    c.storeWarningLbl = findChild<QLabel*>(QStringLiteral("storeWarningLbl"));
-    c.inventButtons = {w.invent1, w.invent2, w.invent3, w.invent4, w.invent5, w.invent6};
-    c.inventStatusLbl = w.inventStatusLbl;
-    c.onlyInGameBox = w.onlyInGameBox;
-    c.pauseInChatBox = w.pauseInChatBox;
-    c.gameStatusLbl = w.gameStatusLbl;
-    c.lastTapLbl = w.lastTapLbl;
-    c.gridFollowsBox = w.gridFollowsBox;
+    editor.setOutlets({.tableView = w.tableView,
+                       .spellImage = w.spellImage,
+                       .spellLbl = w.spellLbl,
+                       .parentImage = w.parentImage,
+                       .parentLbl = w.parentLbl,
+                       .defHotkey = w.defHotkey,
+                       .keysPopup = w.keysPopup,
+                       .clashLbl = findChild<QLabel*>(QStringLiteral("clashLbl")),
+                       .storeWarningLbl = findChild<QLabel*>(QStringLiteral("storeWarningLbl")),
+                       .gridFollowsBox = w.gridFollowsBox});
+    fileExchange.setWindow(this);
+    inventoryPanel.setOutlets(
+        {.inventButtons = {w.invent1, w.invent2, w.invent3, w.invent4, w.invent5, w.invent6},
+         .inventPopup = w.inventPopup,
+         .isShiftBox = w.isShiftBox,
+         .delBTN = w.delBTN,
+         .onlyInGameBox = w.onlyInGameBox,
+         .pauseInChatBox = w.pauseInChatBox,
+         .inventStatusLbl = w.inventStatusLbl,
+         .gameStatusLbl = w.gameStatusLbl,
+         .lastTapLbl = w.lastTapLbl});
 
     // A pop-up changes a key only when the player picks from its list; the pick sends the
     // action, then the focus goes back to the table so that the arrow keys move through the
     // abilities again.
     const auto backToTable = [table = w.tableView] { table->setFocus(Qt::OtherFocusReason); };
-    connect(w.keysPopup, &PopUpButton::chosen, &c, &ViewController::setKey);
+    connect(w.keysPopup, &PopUpButton::chosen, &editor, &EditorController::setKey);
     connect(w.keysPopup, &PopUpButton::chosen, this, backToTable);
-    connect(w.resetButton, &QPushButton::clicked, &c, &ViewController::resetToDef);
-    connect(w.gridButton, &QPushButton::clicked, &c, &ViewController::allQWER);
-    connect(w.exportButton, &QPushButton::clicked, &c, &ViewController::saveCKeys);
-    connect(w.actionReset, &QAction::triggered, &c, &ViewController::resetToDef);
-    connect(w.actionGrid, &QAction::triggered, &c, &ViewController::allQWER);
-    connect(w.actionExport, &QAction::triggered, &c, &ViewController::saveCKeys);
-    connect(w.actionImport, &QAction::triggered, &c, &ViewController::importCKeys);
+    connect(w.resetButton, &QPushButton::clicked, &editor, &EditorController::resetToDef);
+    connect(w.gridButton, &QPushButton::clicked, &editor, &EditorController::allQWER);
+    connect(w.exportButton, &QPushButton::clicked, &fileExchange,
+            &FileExchangeController::saveCKeys);
+    connect(w.actionReset, &QAction::triggered, &editor, &EditorController::resetToDef);
+    connect(w.actionGrid, &QAction::triggered, &editor, &EditorController::allQWER);
+    connect(w.actionExport, &QAction::triggered, &fileExchange, &FileExchangeController::saveCKeys);
+    connect(w.actionImport, &QAction::triggered, &fileExchange,
+            &FileExchangeController::importCKeys);
 
-    connect(w.invent1, &QPushButton::clicked, &c, &ViewController::invent1);
-    connect(w.invent2, &QPushButton::clicked, &c, &ViewController::invent2);
-    connect(w.invent3, &QPushButton::clicked, &c, &ViewController::invent3);
-    connect(w.invent4, &QPushButton::clicked, &c, &ViewController::invent4);
-    connect(w.invent5, &QPushButton::clicked, &c, &ViewController::invent5);
-    connect(w.invent6, &QPushButton::clicked, &c, &ViewController::invent6);
-    connect(w.inventPopup, &PopUpButton::chosen, &c, &ViewController::setInventoryKey);
+    InventoryPanelController& p = inventoryPanel;
+    connect(w.invent1, &QPushButton::clicked, &p, &InventoryPanelController::invent1);
+    connect(w.invent2, &QPushButton::clicked, &p, &InventoryPanelController::invent2);
+    connect(w.invent3, &QPushButton::clicked, &p, &InventoryPanelController::invent3);
+    connect(w.invent4, &QPushButton::clicked, &p, &InventoryPanelController::invent4);
+    connect(w.invent5, &QPushButton::clicked, &p, &InventoryPanelController::invent5);
+    connect(w.invent6, &QPushButton::clicked, &p, &InventoryPanelController::invent6);
+    connect(w.inventPopup, &PopUpButton::chosen, &p, &InventoryPanelController::setInventory);
     connect(w.inventPopup, &PopUpButton::chosen, this, backToTable);
-    connect(w.isShiftBox, &QCheckBox::clicked, &c, &ViewController::setInventoryKeyBox);
-    connect(w.delBTN, &QPushButton::clicked, &c, &ViewController::eraseKey);
-    connect(w.onlyInGameBox, &QCheckBox::clicked, &c, &ViewController::setOnlyWhileGameInFront);
-    connect(w.pauseInChatBox, &QCheckBox::clicked, &c, &ViewController::setPauseWhileTypingInChat);
-    connect(w.gridFollowsBox, &QCheckBox::clicked, &c, &ViewController::setGridFollowsKeyboard);
+    connect(w.isShiftBox, &QCheckBox::clicked, &p, &InventoryPanelController::setInventoryKeyBox);
+    connect(w.delBTN, &QPushButton::clicked, &p, &InventoryPanelController::eraseKey);
+    connect(w.onlyInGameBox, &QCheckBox::clicked, &p,
+            &InventoryPanelController::setOnlyWhileGameInFront);
+    connect(w.pauseInChatBox, &QCheckBox::clicked, &p,
+            &InventoryPanelController::setPauseWhileTypingInChat);
+    connect(w.gridFollowsBox, &QCheckBox::clicked, &editor,
+            &EditorController::setGridFollowsKeyboard);
 }
 
 } // namespace tarnic

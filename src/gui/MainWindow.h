@@ -10,19 +10,29 @@ class MainWindow;
 
 namespace tarnic {
 
-class ViewController;
+class EditorController;
+class FileExchangeController;
+class InventoryPanelController;
 
 // The main window: the ability table, the selected ability's detail with its hotkey, and the
-// inventory keys. It holds the controls; the controller holds the state.
+// inventory keys. It holds the controls; the controllers hold the state.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    // Points the controller's outlets at the controls and connects the controls' actions to it,
-    // as an interface file would. Call once, before the controller's viewDidLoad.
-    void connectController(ViewController& controller);
+    // Points each controller at the controls it works on and connects the controls' actions to
+    // it. Call once, before the controllers' viewDidLoad.
+    void connectControllers(EditorController& editor, FileExchangeController& fileExchange,
+                            InventoryPanelController& inventoryPanel);
+
+signals:
+    // The window is being closed (by the player, the window manager or Quit).
+    void closing();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     std::unique_ptr<Ui::MainWindow> ui_;

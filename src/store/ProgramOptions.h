@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/remapper/InventoryRemapper.h"
+#include "core/bindings/InventoryOptions.h"
 
 #include <QSettings>
 #include <QString>

@@ -1,5 +1,6 @@
 #include "store/StoredTypes.h"
 
+#include "core/bindings/BindingArray.h"
 #include "store/IntegerValue.h"
 
 #include <QAnyStringView>
@@ -104,12 +105,13 @@ QVariant abilityListToStored(const std::vector<AbilityRecord>& list) {
     return items;
 }
 
-std::variant<InventoryModel, WrongType> inventoryModelFromStored(const QVariant& value) {
+std::variant<std::optional<SlotBinding>, WrongType>
+inventoryModelFromStored(const QVariant& value) {
     if (!isList(value)) {
         return WrongType{storedTypeName(value)};
     }
     const QVariantList items = value.toList();
-    InventoryModel model;
+    std::vector<std::int64_t> model;
     model.reserve(static_cast<std::size_t>(items.size()));
     for (const QVariant& item : items) {
         const std::optional<std::int64_t> number = integerValue(item);
@@ -122,10 +124,11 @@ std::variant<InventoryModel, WrongType> inventoryModelFromStored(const QVariant&
         }
         model.push_back(*number);
     }
-    return model;
+    return bindingFromArray(model);
 }
 
-QVariant inventoryModelToStored(const InventoryModel& model) {
+QVariant inventoryModelToStored(const SlotBinding& binding) {
+    const std::vector<std::int64_t> model = arrayOf(binding);
     QVariantList items;
     items.reserve(static_cast<qsizetype>(model.size()));
     for (const std::int64_t number : model) {

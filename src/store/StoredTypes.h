@@ -1,10 +1,11 @@
 #pragma once
 
 #include "core/record/AbilityRecord.h"
-#include "core/remapper/InventoryRemapper.h"
+#include "core/bindings/SlotBinding.h"
 
 #include <QVariant>
 
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -31,8 +32,9 @@ QVariant abilityListToStored(const std::vector<AbilityRecord>& list);
 // when it is a QVariantList of QVariantMaps of QStrings with the list's very keys and texts.
 bool isStoredAbilityList(const QVariant& value, const std::vector<AbilityRecord>& list);
 
-// An array of integers, of any length and range.
-std::variant<InventoryModel, WrongType> inventoryModelFromStored(const QVariant& value);
-QVariant inventoryModelToStored(const InventoryModel& model);
+// An array of integers, of any length and range, read as a slot binding (see BindingArray): an
+// empty array is no binding.
+std::variant<std::optional<SlotBinding>, WrongType> inventoryModelFromStored(const QVariant& value);
+QVariant inventoryModelToStored(const SlotBinding& binding);
 
 } // namespace tarnic

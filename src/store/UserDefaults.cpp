@@ -60,7 +60,7 @@ bool UserDefaults::setMainDicIfChanged(const std::vector<AbilityRecord>& list) {
     return setMainDic(list);
 }
 
-std::optional<InventoryModel> UserDefaults::inventoryModel(int slot) const {
+std::optional<SlotBinding> UserDefaults::inventoryModel(int slot) const {
     const QString key = inventoryModelKey(slot);
     const QVariant stored = settings_.value(key);
     if (!stored.isValid()) {
@@ -70,11 +70,11 @@ std::optional<InventoryModel> UserDefaults::inventoryModel(int slot) const {
     if (const auto* wrong = std::get_if<WrongType>(&read)) {
         wrongType(settings_, key, "array of integers", wrong->found);
     }
-    return std::get<InventoryModel>(std::move(read));
+    return std::get<std::optional<SlotBinding>>(read);
 }
 
-bool UserDefaults::setInventoryModel(int slot, const InventoryModel& model) {
-    settings_.setValue(inventoryModelKey(slot), inventoryModelToStored(model));
+bool UserDefaults::setInventoryModel(int slot, const SlotBinding& binding) {
+    settings_.setValue(inventoryModelKey(slot), inventoryModelToStored(binding));
     return writeSettings(settings_);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/record/AbilityRecord.h"
-#include "core/remapper/InventoryRemapper.h"
+#include "core/bindings/SlotBinding.h"
 
 #include <QSettings>
 
@@ -52,9 +52,9 @@ public:
     // failed) is written.
     bool setMainDicIfChanged(const std::vector<AbilityRecord>& list);
 
-    // slot is 1 to 6.
-    std::optional<InventoryModel> inventoryModel(int slot) const;
-    bool setInventoryModel(int slot, const InventoryModel& model);
+    // slot is 1 to 6. No binding: the key is missing, or holds an empty array.
+    std::optional<SlotBinding> inventoryModel(int slot) const;
+    bool setInventoryModel(int slot, const SlotBinding& binding);
     bool removeInventoryModel(int slot);
 
 private:

@@ -49,14 +49,14 @@ protected:
 TEST_F(AbilityTable, HoldsTheCatalogueWithMoveFirst) {
     launch();
     ASSERT_FALSE(all_data().empty());
-    EXPECT_EQ(vc().tableModel().rowCount(), static_cast<int>(all_data().size()));
-    EXPECT_EQ(vc().tableModel().index(0, 0).data().toString(), "Move");
+    EXPECT_EQ(editor().tableModel().rowCount(), static_cast<int>(all_data().size()));
+    EXPECT_EQ(editor().tableModel().index(0, 0).data().toString(), "Move");
     EXPECT_EQ(ui().spellLbl->text(), "Move");
 }
 
 TEST_F(AbilityTable, ColumnsAreTheAbilityOwnerAndKeys) {
     launch();
-    const auto& model = vc().tableModel();
+    const auto& model = editor().tableModel();
     ASSERT_EQ(model.columnCount(), 4);
     const QStringList titles = {"Ability", "Owner", "Default", "New"};
     for (int c = 0; c < 4; ++c) {
@@ -162,8 +162,8 @@ TEST_F(AbilityTable, HandlerRunAgainForOneChangeGivesTheSameDisplay) {
     launch();
     clickRow(12);
     const Display once = display();
-    vc().tableViewSelectionDidChange();
-    vc().tableViewSelectionDidChange();
+    editor().tableViewSelectionDidChange();
+    editor().tableViewSelectionDidChange();
     EXPECT_EQ(display(), once);
     EXPECT_EQ(once.spell.toStdString(), all_data()[12].at(name_spell));
 }
@@ -192,8 +192,8 @@ TEST_F(AbilityTable, TheSelectionCannotBeEmptied) {
 TEST_F(AbilityTable, ACellOfAKeyTheRecordLacksIsEmpty) {
     launch();
     // Move has no owner.
-    EXPECT_FALSE(vc().tableModel().index(0, 1).data().isValid());
-    EXPECT_EQ(vc().tableModel().index(0, 2).data().toString(), "M");
+    EXPECT_FALSE(editor().tableModel().index(0, 1).data().isValid());
+    EXPECT_EQ(editor().tableModel().index(0, 2).data().toString(), "M");
 }
 
 TEST_F(AbilityTable, ColumnsFitTheirContentsAsEveryRowMeasuredWould) {
@@ -204,7 +204,8 @@ TEST_F(AbilityTable, ColumnsFitTheirContentsAsEveryRowMeasuredWould) {
     allQWER(list);
     list[3][new_hotkey] = "Escape";
     AbilityTableModel model(list);
-    model.setColumns(vc().tableModel().columnIdentifiers(), {"Ability", "Owner", "Default", "New"});
+    model.setColumns(editor().tableModel().columnIdentifiers(),
+                     {"Ability", "Owner", "Default", "New"});
     MeasuredTable table;
     table.setModel(&model);
     table.resize(900, 600);
@@ -244,8 +245,8 @@ using AbilityTableDeathTest = AbilityTable;
 TEST_F(AbilityTableDeathTest, NoSelectedRowIsAnIndexOutOfRange) {
     storeMainDic({});
     launch();
-    EXPECT_EQ(vc().tableModel().rowCount(), 0);
-    EXPECT_DEATH(vc().tableViewSelectionDidChange(), "Index out of range");
+    EXPECT_EQ(editor().tableModel().rowCount(), 0);
+    EXPECT_DEATH(editor().tableViewSelectionDidChange(), "Index out of range");
 }
 
 TEST_F(AbilityTableDeathTest, AnEmptyListEndsTheProgramWhenAHotkeyIsChosen) {
@@ -253,7 +254,7 @@ TEST_F(AbilityTableDeathTest, AnEmptyListEndsTheProgramWhenAHotkeyIsChosen) {
     // chosen in the Hotkey pop-up has no ability to go to.
     storeMainDic({});
     launch();
-    ASSERT_EQ(vc().tableModel().rowCount(), 0);
+    ASSERT_EQ(editor().tableModel().rowCount(), 0);
     EXPECT_DEATH(choose(*ui().keysPopup, "K"), "Fatal error: Index out of range: row -1 of 0");
 }
 

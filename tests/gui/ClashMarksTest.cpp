@@ -29,7 +29,7 @@ protected:
     // The "New" column's cell of a row.
     QModelIndex newCell(int row) {
         const int column =
-            static_cast<int>(vc().tableModel().columnIdentifiers().indexOf("new hotkey"));
+            static_cast<int>(editor().tableModel().columnIdentifiers().indexOf("new hotkey"));
         EXPECT_GE(column, 0);
         return ui().tableView->model()->index(row, column);
     }
@@ -51,14 +51,23 @@ protected:
     }
 };
 
-TEST_F(ClashMarks, TheGameKeysClashTwiceOnAttackGround) {
-    EXPECT_EQ(count(), "2 clashes");
+TEST_F(ClashMarks, TheGameKeysAloneHaveNoClash) {
+    // Attack Ground, Purge and Gold Mine share the game's G: that is no clash of the player's.
+    EXPECT_EQ(count(), "No clashes");
     EXPECT_TRUE(ui().clashLbl->isVisible());
-    EXPECT_EQ(markedRows(), 3);
-    EXPECT_TRUE(markedRow(rowOf(attack_ground_())));
-    EXPECT_EQ(tip(rowOf(attack_ground_())), "G is also the key of Purge and Gold Mine.");
+    EXPECT_EQ(markedRows(), 0);
+    EXPECT_EQ(tip(rowOf(attack_ground_())), "");
+    EXPECT_EQ(tip(rowOf(purge_())), "");
+}
+
+TEST_F(ClashMarks, TheGamesOwnLetterPickedByHandClashes) {
+    // Purge picked on G, its default letter: the player's key now meets Attack Ground's.
+    setKey(rowOf(purge_()), "G");
+    EXPECT_EQ(count(), "1 clash");
+    EXPECT_EQ(markedRows(), 2);
+    EXPECT_EQ(tip(rowOf(attack_ground_())), "G is also the key of Purge.");
     EXPECT_EQ(tip(rowOf(purge_())), "G is also the key of Attack Ground.");
-    EXPECT_EQ(tip(rowOf(gold_mine_())), "G is also the key of Attack Ground.");
+    EXPECT_FALSE(markedRow(rowOf(gold_mine_())));
 }
 
 TEST_F(ClashMarks, ARowWithoutAClashHasNoMarkAndNoTip) {
@@ -75,16 +84,20 @@ TEST_F(ClashMarks, ARowWithoutAClashHasNoMarkAndNoTip) {
 TEST_F(ClashMarks, AKeySetByHandMarksTheNewClashAtOnce) {
     // Holy Light (T) onto Divine Shield's key, D.
     setKey(rowOf(holy_light_()), "D");
-    EXPECT_EQ(count(), "3 clashes");
+    EXPECT_EQ(count(), "1 clash");
+    EXPECT_EQ(markedRows(), 2);
     EXPECT_TRUE(markedRow(rowOf(holy_light_())));
     EXPECT_EQ(tip(rowOf(divine_shield_())), "D is also the key of Holy Light.");
 }
 
 TEST_F(ClashMarks, MovingAKeyAwayClearsTheMark) {
-    setKey(rowOf(purge_()), "U");
-    EXPECT_EQ(count(), "1 clash");
-    EXPECT_FALSE(markedRow(rowOf(purge_())));
-    EXPECT_EQ(tip(rowOf(attack_ground_())), "G is also the key of Gold Mine.");
+    setKey(rowOf(holy_light_()), "D");
+    ASSERT_EQ(count(), "1 clash");
+    setKey(rowOf(holy_light_()), "U");
+    EXPECT_EQ(count(), "No clashes");
+    EXPECT_FALSE(markedRow(rowOf(holy_light_())));
+    EXPECT_FALSE(markedRow(rowOf(divine_shield_())));
+    EXPECT_EQ(tip(rowOf(divine_shield_())), "");
 }
 
 TEST_F(ClashMarks, GridLayoutLeavesNoClash) {
@@ -93,22 +106,36 @@ TEST_F(ClashMarks, GridLayoutLeavesNoClash) {
     EXPECT_EQ(markedRows(), 0);
 }
 
-TEST_F(ClashMarks, ResetBringsBackTheGameKeysClashes) {
-    click(*ui().gridButton);
+TEST_F(ClashMarks, ResetClearsThePlayersClashes) {
+    setKey(rowOf(holy_light_()), "D");
+    ASSERT_EQ(count(), "1 clash");
     click(*ui().resetButton);
-    EXPECT_EQ(count(), "2 clashes");
-    EXPECT_EQ(markedRows(), 3);
+    EXPECT_EQ(count(), "No clashes");
+    EXPECT_EQ(markedRows(), 0);
 }
 
 TEST_F(ClashMarks, ImportMarksTheClashesOfTheFile) {
-    click(*ui().gridButton);
-    ASSERT_EQ(count(), "No clashes");
-    QSignalSpy finished(&vc(), &ViewController::importFinished);
-    vc().fileDialog().setNextAnswer(
+    // A file that puts Holy Light on Divine Shield's D: a key the import chose.
+    const QString file = tempPath(QStringLiteral("CustomKeys.txt"));
+    writeFile(file, "[AHhb]\r\nHotkey=D\r\n");
+    QSignalSpy finished(&exchange(), &FileExchangeController::importFinished);
+    exchange().fileDialog().setNextAnswer(file);
+    ui().actionImport->trigger();
+    ASSERT_TRUE(!finished.isEmpty() || finished.wait(5000));
+    EXPECT_EQ(count(), "1 clash");
+    EXPECT_EQ(tip(rowOf(divine_shield_())), "D is also the key of Holy Light.");
+}
+
+TEST_F(ClashMarks, ImportingTheGamesOwnFileLeavesNoClash) {
+    setKey(rowOf(holy_light_()), "D");
+    ASSERT_EQ(count(), "1 clash");
+    QSignalSpy finished(&exchange(), &FileExchangeController::importFinished);
+    exchange().fileDialog().setNextAnswer(
         QStringLiteral(TARNIC_SOURCE_DIR "/tests/data/game-default-CustomKeys.txt"));
     ui().actionImport->trigger();
     ASSERT_TRUE(!finished.isEmpty() || finished.wait(5000));
-    EXPECT_EQ(count(), "2 clashes");
+    EXPECT_EQ(count(), "No clashes");
+    EXPECT_EQ(markedRows(), 0);
 }
 
 TEST_F(ClashMarks, AGeneralCommandOnAnOwnersKeyClashesWithIt) {

@@ -65,7 +65,7 @@ std::optional<std::vector<AbilityRecord>> EditorFixture::storedMainDic() const {
     return UserDefaults(settings).mainDic();
 }
 
-std::optional<InventoryModel> EditorFixture::storedInventoryModel(int slot) const {
+std::optional<SlotBinding> EditorFixture::storedInventoryModel(int slot) const {
     QSettings settings(storePath(), plistSettingsFormat());
     return UserDefaults(settings).inventoryModel(slot);
 }
@@ -86,9 +86,9 @@ void EditorFixture::storeMainDic(const std::vector<AbilityRecord>& list) const {
     settings.sync();
 }
 
-void EditorFixture::storeInventoryModel(int slot, const InventoryModel& model) const {
+void EditorFixture::storeInventoryModel(int slot, const SlotBinding& binding) const {
     QSettings settings(storePath(), plistSettingsFormat());
-    UserDefaults(settings).setInventoryModel(slot, model);
+    UserDefaults(settings).setInventoryModel(slot, binding);
     settings.sync();
 }
 

@@ -4,9 +4,8 @@
 #include "WindowControls.h"
 #include "app/Application.h"
 #include "core/record/AbilityRecord.h"
-#include "core/remapper/InventoryRemapper.h"
+#include "core/bindings/SlotBinding.h"
 #include "gui/MainWindow.h"
-#include "gui/ViewController.h"
 #include "platform/fake/FakePlatform.h"
 
 #include <QByteArray>
@@ -48,13 +47,13 @@ protected:
 
     // What the store file holds now, read through a fresh store object.
     std::optional<std::vector<AbilityRecord>> storedMainDic() const;
-    std::optional<InventoryModel> storedInventoryModel(int slot) const;
+    std::optional<SlotBinding> storedInventoryModel(int slot) const;
     bool storeHasKey(const QString& key) const;
     // Every key the store file holds now.
     QStringList storeKeys() const;
     // Writes values into the store before a start.
     void storeMainDic(const std::vector<AbilityRecord>& list) const;
-    void storeInventoryModel(int slot, const InventoryModel& model) const;
+    void storeInventoryModel(int slot, const SlotBinding& binding) const;
     void storeRaw(const QString& key, const QVariant& value) const;
 
     // Drives the window as a player would.
@@ -67,7 +66,9 @@ protected:
 
     WindowControls& ui() { return *controls_; }
     Application& app() { return *app_; }
-    ViewController& vc() { return app_->controller(); }
+    EditorController& editor() { return app_->editor(); }
+    FileExchangeController& exchange() { return app_->fileExchange(); }
+    InventoryPanelController& panel() { return app_->inventoryPanel(); }
     MainWindow& window() { return app_->window(); }
     RecordingAlerts& alerts() { return alerts_; }
     // What the remapper watches and types through: recording fakes the tests drive.

@@ -27,16 +27,15 @@ class EditorState : public EditorFixture {};
 TEST_F(EditorState, InitialValuesBeforeTheViewLoads) {
     const std::unique_ptr<QSettings> settings = openUserDefaults();
     const std::unique_ptr<QSettings> options = openProgramOptions();
-    ViewController controller(*settings, *options);
-    EXPECT_EQ(controller.def_keys_bundle, "");
-    EXPECT_EQ(controller.result, "");
-    EXPECT_EQ(controller.inventoryEditNow, 0);
-    for (const InventoryModel& model : controller.inventoryModels) {
-        EXPECT_TRUE(model.empty());
-    }
-    EXPECT_EQ(controller.mainDic, all_data());
-    EXPECT_EQ(&controller.keyboardKeys, &keyboardKeys);
-    EXPECT_EQ(&controller.keyboardKeysNum, &keyboardKeysNum);
+    InventoryBindings bindings;
+    EditorController editor(*settings);
+    FileExchangeController exchange(editor, alerts());
+    InventoryPanelController panel(*settings, *options, bindings);
+    EXPECT_EQ(exchange.def_keys_bundle(), "");
+    EXPECT_EQ(exchange.result(), "");
+    EXPECT_EQ(panel.inventoryEditNow(), 0);
+    EXPECT_EQ(bindings, InventoryBindings{});
+    EXPECT_EQ(editor.mainDic(), all_data());
     // Nothing is stored before the view loads.
     EXPECT_FALSE(QFile::exists(storePath()));
 }
@@ -44,14 +43,15 @@ TEST_F(EditorState, InitialValuesBeforeTheViewLoads) {
 TEST_F(EditorState, FirstRunShowsAndStoresTheCatalogueWithEverySlotEmpty) {
     launch();
     const auto& catalogue = all_data();
-    ASSERT_EQ(vc().tableModel().rowCount(), static_cast<int>(catalogue.size()));
+    ASSERT_EQ(editor().tableModel().rowCount(), static_cast<int>(catalogue.size()));
     for (std::size_t r = 0; r < catalogue.size(); ++r) {
-        EXPECT_EQ(vc().tableModel().index(static_cast<int>(r), 0).data().toString().toStdString(),
-                  catalogue[r].at(name_spell));
+        EXPECT_EQ(
+            editor().tableModel().index(static_cast<int>(r), 0).data().toString().toStdString(),
+            catalogue[r].at(name_spell));
     }
     EXPECT_EQ(storedMainDic(), catalogue);
     for (int n = 1; n <= 6; ++n) {
-        EXPECT_TRUE(vc().inventoryModels[static_cast<std::size_t>(n - 1)].empty());
+        EXPECT_FALSE(app().inventoryBindings().of(n).has_value());
         EXPECT_FALSE(storeHasKey(QStringLiteral("inventoryModel%1").arg(n)));
     }
 }
@@ -61,9 +61,9 @@ TEST_F(EditorState, StoredListReplacesTheCatalogueWhole) {
     list.push_back(makeRecord("Lost Ability", "Old Unit", "L"));
     storeMainDic(list);
     launch();
-    EXPECT_EQ(vc().mainDic, list);
-    ASSERT_EQ(vc().tableModel().rowCount(), 8);
-    EXPECT_EQ(vc().tableModel().index(7, 0).data().toString(), "Lost Ability");
+    EXPECT_EQ(editor().mainDic(), list);
+    ASSERT_EQ(editor().tableModel().rowCount(), 8);
+    EXPECT_EQ(editor().tableModel().index(7, 0).data().toString(), "Lost Ability");
     EXPECT_EQ(storedMainDic(), list);
     EXPECT_EQ(ui().spellLbl->text(), "Move");
 }
@@ -72,11 +72,11 @@ TEST_F(EditorState, SingleAssignmentIsLostAtTheNextStart) {
     launch();
     clickRow(3);
     choose(*ui().keysPopup, "Q");
-    ASSERT_EQ(vc().mainDic[3].at(new_hotkey), "Q");
+    ASSERT_EQ(editor().mainDic()[3].at(new_hotkey), "Q");
     EXPECT_EQ(storedMainDic(), all_data());
     launch();
-    EXPECT_EQ(vc().mainDic[3].at(new_hotkey), "");
-    EXPECT_EQ(vc().mainDic, all_data());
+    EXPECT_EQ(editor().mainDic()[3].at(new_hotkey), "");
+    EXPECT_EQ(editor().mainDic(), all_data());
 }
 
 TEST_F(EditorState, AssignmentFollowedByGridLayoutSurvives) {
@@ -84,20 +84,20 @@ TEST_F(EditorState, AssignmentFollowedByGridLayoutSurvives) {
     clickRow(3);
     choose(*ui().keysPopup, "Q");
     click(*ui().gridButton);
-    const auto laidOut = vc().mainDic;
+    const auto laidOut = editor().mainDic();
     launch();
-    EXPECT_EQ(vc().mainDic[3].at(new_hotkey), "Q");
-    EXPECT_EQ(vc().mainDic, laidOut);
+    EXPECT_EQ(editor().mainDic()[3].at(new_hotkey), "Q");
+    EXPECT_EQ(editor().mainDic(), laidOut);
 }
 
 TEST_F(EditorState, OnlyTheStoredSlotsAreRestored) {
     storeInventoryModel(2, {2, 0, 12});
     storeInventoryModel(5, {5, 56, 18});
     launch();
-    EXPECT_EQ(vc().inventoryModels[1], (InventoryModel{2, 0, 12}));
-    EXPECT_EQ(vc().inventoryModels[4], (InventoryModel{5, 56, 18}));
-    for (std::size_t i : {0u, 2u, 3u, 5u}) {
-        EXPECT_TRUE(vc().inventoryModels[i].empty());
+    EXPECT_EQ(app().inventoryBindings().of(2), (SlotBinding{2, 0, 12}));
+    EXPECT_EQ(app().inventoryBindings().of(5), (SlotBinding{5, 56, 18}));
+    for (const int slot : {1, 3, 4, 6}) {
+        EXPECT_FALSE(app().inventoryBindings().of(slot).has_value());
     }
 }
 
@@ -130,8 +130,8 @@ TEST_F(EditorState, TemplateIsTheShippedFileWhole) {
     launch();
     QFile shipped(QStringLiteral(TARNIC_SOURCE_DIR "/resources/defaultkeys"));
     ASSERT_TRUE(shipped.open(QIODevice::ReadOnly));
-    EXPECT_EQ(vc().def_keys_bundle, shipped.readAll().toStdString());
-    EXPECT_NE(vc().def_keys_bundle.find(mark), std::string::npos);
+    EXPECT_EQ(exchange().def_keys_bundle(), shipped.readAll().toStdString());
+    EXPECT_NE(exchange().def_keys_bundle().find(mark), std::string::npos);
 }
 
 TEST_F(EditorState, WithoutTheTemplateStartUpCompletesWithAnEmptyTemplate) {
@@ -139,7 +139,7 @@ TEST_F(EditorState, WithoutTheTemplateStartUpCompletesWithAnEmptyTemplate) {
     unregisterTemplate();
     launch();
     registerTemplate();
-    EXPECT_EQ(vc().def_keys_bundle, "");
+    EXPECT_EQ(exchange().def_keys_bundle(), "");
     EXPECT_EQ(ui().spellLbl->text().toStdString(), all_data().at(0).at(name_spell));
 }
 
@@ -158,7 +158,7 @@ TEST_F(EditorState, OtherApplicationStatesDoNotEndIt) {
 
 TEST_F(EditorState, ClosingTheWindowEndsIt) {
     launch();
-    // Not Qt's own last-window rule: the controller ends the application.
+    // Not Qt's own last-window rule: the application ends itself.
     QApplication::setQuitOnLastWindowClosed(false);
     const bool quit = quitsAfter([this] { window().close(); });
     QApplication::setQuitOnLastWindowClosed(true);
@@ -188,7 +188,7 @@ TEST_F(EditorState, UnparsableStoreIsKeptAsideAndTheCatalogueLoads) {
         file.write(garbage);
     }
     launch();
-    EXPECT_EQ(vc().mainDic, all_data());
+    EXPECT_EQ(editor().mainDic(), all_data());
     const QDir folder = QFileInfo(storePath()).dir();
     const QStringList aside =
         folder.entryList({QFileInfo(storePath()).fileName() + "*unreadable*"}, QDir::Files);
@@ -214,9 +214,14 @@ TEST_F(EditorStateDeathTest, BindingOfTheWrongTypeEndsTheProgram) {
 TEST_F(EditorStateDeathTest, UnconnectedOutletEndsTheProgram) {
     const std::unique_ptr<QSettings> settings = openUserDefaults();
     const std::unique_ptr<QSettings> options = openProgramOptions();
-    ViewController controller(*settings, *options);
-    EXPECT_DEATH(controller.viewDidLoad(),
+    EditorController editor(*settings);
+    EXPECT_DEATH(editor.viewDidLoad(),
                  "Unexpectedly found nil while implicitly unwrapping an Optional value: keysPopup");
+    InventoryBindings bindings;
+    InventoryPanelController panel(*settings, *options, bindings);
+    EXPECT_DEATH(
+        panel.viewDidLoad(),
+        "Unexpectedly found nil while implicitly unwrapping an Optional value: inventPopup");
 }
 
 TEST_F(EditorStateDeathTest, OutletWhoseControlIsGoneEndsTheProgramAtItsUse) {

@@ -31,8 +31,8 @@ protected:
     }
     // Clicks Export and answers the save dialog; returns once the answer has been handled.
     void exportAnswering(std::optional<QString> path) {
-        QSignalSpy finished(&vc(), &ViewController::exportFinished);
-        vc().fileDialog().setNextAnswer(std::move(path));
+        QSignalSpy finished(&exchange(), &FileExchangeController::exportFinished);
+        exchange().fileDialog().setNextAnswer(std::move(path));
         click(*ui().exportButton);
         ASSERT_TRUE(!finished.isEmpty() || finished.wait(5000));
     }
@@ -91,7 +91,7 @@ TEST_F(Export, CancelWritesNothingAndKeepsTheText) {
     writeFile(target_, "my old keys\r\n");
     exportAnswering(std::nullopt);
     EXPECT_EQ(bytesOf(target_), "my old keys\r\n");
-    EXPECT_EQ(QByteArray::fromStdString(vc().result), expected());
+    EXPECT_EQ(QByteArray::fromStdString(exchange().result()), expected());
     EXPECT_EQ(QDir(dir_.path()).entryList(QDir::Files), QStringList{"CustomKeys.txt"});
 }
 
@@ -111,10 +111,10 @@ TEST_F(Export, TwoExportsInARowWriteTheSameFile) {
 TEST_F(Export, ExportChangesNeitherTheListNorTheStore) {
     clickRow(8);
     choose(*ui().keysPopup, "J");
-    const auto list = vc().mainDic;
+    const auto list = editor().mainDic();
     const QByteArray store = bytesOf(storePath());
     exportAnswering(target_);
-    EXPECT_EQ(vc().mainDic, list);
+    EXPECT_EQ(editor().mainDic(), list);
     EXPECT_EQ(bytesOf(storePath()), store);
 }
 
@@ -123,7 +123,7 @@ TEST_F(Export, FailedWriteUnderARegularFileChangesNothingAndSaysWhy) {
     writeFile(blocker, "a plain file\n");
     exportAnswering(blocker + "/CustomKeys.txt");
     EXPECT_EQ(bytesOf(blocker), "a plain file\n");
-    EXPECT_EQ(QByteArray::fromStdString(vc().result), expected());
+    EXPECT_EQ(QByteArray::fromStdString(exchange().result()), expected());
     expectFailureAlert("CustomKeys.txt", blocker, "Not a directory");
 }
 
@@ -177,8 +177,8 @@ TEST_F(Export, OverAReadOnlyFileAfterReplaceSaysSoAndKeepsTheFile) {
 TEST_F(Export, IntoAFolderDeletedWhileTheDialogWasOpenSaysSo) {
     const QString folder = tempPath("gone");
     ASSERT_TRUE(QDir().mkpath(folder));
-    QSignalSpy finished(&vc(), &ViewController::exportFinished);
-    vc().fileDialog().setNextAnswer(folder + "/CustomKeys.txt");
+    QSignalSpy finished(&exchange(), &FileExchangeController::exportFinished);
+    exchange().fileDialog().setNextAnswer(folder + "/CustomKeys.txt");
     click(*ui().exportButton);
     // The answer is on its way; the folder goes before it arrives.
     ASSERT_TRUE(finished.isEmpty());
@@ -204,8 +204,8 @@ TEST_F(Export, MissingTemplateWritesAnEmptyFile) {
 }
 
 TEST_F(Export, ShortcutExportsToo) {
-    QSignalSpy finished(&vc(), &ViewController::exportFinished);
-    vc().fileDialog().setNextAnswer(target_);
+    QSignalSpy finished(&exchange(), &FileExchangeController::exportFinished);
+    exchange().fileDialog().setNextAnswer(target_);
     window().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window(), 5000));
     QTest::keyClick(&window(), Qt::Key_S, Qt::ControlModifier);
@@ -214,7 +214,7 @@ TEST_F(Export, ShortcutExportsToo) {
 }
 
 TEST_F(Export, DialogProposesCustomKeysAsATextFileAndWritesWhereTheUserSays) {
-    QSignalSpy finished(&vc(), &ViewController::exportFinished);
+    QSignalSpy finished(&exchange(), &FileExchangeController::exportFinished);
     click(*ui().exportButton);
     QFileDialog* dialog = nullptr;
     for (QWidget* widget : QApplication::topLevelWidgets()) {
@@ -245,7 +245,7 @@ TEST_F(Export, DialogProposesCustomKeysAsATextFileAndWritesWhereTheUserSays) {
 }
 
 TEST_F(Export, DialogCancelledByThePlayerWritesNothing) {
-    QSignalSpy finished(&vc(), &ViewController::exportFinished);
+    QSignalSpy finished(&exchange(), &FileExchangeController::exportFinished);
     click(*ui().exportButton);
     QFileDialog* dialog = nullptr;
     for (QWidget* widget : QApplication::topLevelWidgets()) {

@@ -45,7 +45,7 @@ TEST_F(FatalAlertWindowDeathTest, ABindingOfTheWrongTypeIsShownBeforeTheEnd) {
 TEST_F(FatalAlertWindowDeathTest, AnEmptyListEndsAtTheHotkeyPopUpWithTheAlert) {
     storeRaw("mainDic", QVariantList{});
     launchPrinting();
-    ASSERT_EQ(vc().mainDic.size(), 0U);
+    ASSERT_EQ(editor().mainDic().size(), 0U);
     EXPECT_DEATH(choose(*ui().keysPopup, "Q"),
                  "Fatal error: Index out of range: row -1 of 0\n"
                  "alert on the GUI thread: Tarnic Pro has to close\\. / "

@@ -106,8 +106,8 @@ protected:
     }
     void freeUp() { ASSERT_TRUE(QFile::remove(disk_ + "/filler")); }
     void exportAnswering(const QString& path) {
-        QSignalSpy finished(&vc(), &ViewController::exportFinished);
-        vc().fileDialog().setNextAnswer(path);
+        QSignalSpy finished(&exchange(), &FileExchangeController::exportFinished);
+        exchange().fileDialog().setNextAnswer(path);
         click(*ui().exportButton);
         ASSERT_TRUE(!finished.isEmpty() || finished.wait(5000));
     }

@@ -20,14 +20,14 @@ protected:
     // The "New" column from row 7 on, as the table shows it.
     std::vector<std::string> shownKeysFrom7() {
         std::vector<std::string> keys;
-        for (int r = 7; r < vc().tableModel().rowCount(); ++r) {
-            keys.push_back(vc().tableModel().index(r, 3).data().toString().toStdString());
+        for (int r = 7; r < editor().tableModel().rowCount(); ++r) {
+            keys.push_back(editor().tableModel().index(r, 3).data().toString().toStdString());
         }
         return keys;
     }
     std::size_t rowOf(const std::string& name, const std::string& owner) {
-        for (std::size_t r = 0; r < vc().mainDic.size(); ++r) {
-            const auto& record = vc().mainDic[r];
+        for (std::size_t r = 0; r < editor().mainDic().size(); ++r) {
+            const auto& record = editor().mainDic()[r];
             if (record.at(name_spell) == name && record.count(name_parent) != 0 &&
                 record.at(name_parent) == owner) {
                 return r;
@@ -45,10 +45,10 @@ TEST_F(GridLayoutWindow, SevenRecordsStayAsTheyWereButAreStored) {
     launch();
     clickRow(2);
     choose(*ui().keysPopup, "X");
-    const auto before = vc().mainDic;
+    const auto before = editor().mainDic();
     ASSERT_NE(storedMainDic(), before);
     click(*ui().gridButton);
-    EXPECT_EQ(vc().mainDic, before);
+    EXPECT_EQ(editor().mainDic(), before);
     EXPECT_EQ(storedMainDic(), before);
     EXPECT_EQ(ui().keysPopup->currentText(), "X");
 }
@@ -79,8 +79,8 @@ TEST_F(GridLayoutWindow, HandSetKeyOnMoveSurvivesAndOnHealIsReplaced) {
     clickRow(static_cast<int>(heal));
     choose(*ui().keysPopup, "Z");
     click(*ui().gridButton);
-    EXPECT_EQ(vc().mainDic[0].at(new_hotkey), "Z");
-    EXPECT_EQ(vc().mainDic[heal].at(new_hotkey), "Q");
+    EXPECT_EQ(editor().mainDic()[0].at(new_hotkey), "Z");
+    EXPECT_EQ(editor().mainDic()[heal].at(new_hotkey), "Q");
     // The selected row is Heal: the pop-up shows its laid-out letter.
     EXPECT_EQ(ui().keysPopup->currentText(), "Q");
     clickRow(0);
@@ -121,25 +121,25 @@ TEST_F(GridLayoutWindow, CatalogueGetsTheLettersOfItsOwners) {
         {"Vengeance", "Warden", "R"},
         {"Spirit of Vengeance", "Vengeance", "Q"}};
     for (const auto& [name, owner, key] : expected) {
-        EXPECT_EQ(vc().mainDic[rowOf(name, owner)].at(new_hotkey), key) << name;
+        EXPECT_EQ(editor().mainDic()[rowOf(name, owner)].at(new_hotkey), key) << name;
     }
 }
 
 TEST_F(GridLayoutWindow, StoredListReadsBackAsTheLaidOutList) {
     launch();
     click(*ui().gridButton);
-    EXPECT_EQ(storedMainDic(), vc().mainDic);
-    const auto laidOut = vc().mainDic;
+    EXPECT_EQ(storedMainDic(), editor().mainDic());
+    const auto laidOut = editor().mainDic();
     launch();
-    EXPECT_EQ(vc().mainDic, laidOut);
+    EXPECT_EQ(editor().mainDic(), laidOut);
 }
 
 TEST_F(GridLayoutWindow, RunningTwiceGivesTheSameList) {
     launch();
     click(*ui().gridButton);
-    const auto once = vc().mainDic;
+    const auto once = editor().mainDic();
     click(*ui().gridButton);
-    EXPECT_EQ(vc().mainDic, once);
+    EXPECT_EQ(editor().mainDic(), once);
 }
 
 } // namespace

@@ -18,14 +18,14 @@ TEST_F(HotkeyAssignment, MoveOnQEndsInHotkeyQ) {
     launch();
     clickRow(0);
     choose(*ui().keysPopup, "Q");
-    const AbilityRecord& move = vc().mainDic[0];
+    const AbilityRecord& move = editor().mainDic()[0];
     EXPECT_EQ(move.at(new_hotkey), "Q");
     std::string expected = all_data()[0].at(def);
     ASSERT_EQ(expected.substr(expected.size() - 9), "\nHotkey=M");
     expected.back() = 'Q';
     EXPECT_EQ(move.at(new_edit), expected);
     // The table shows the new key at once.
-    EXPECT_EQ(vc().tableModel().index(0, 3).data().toString(), "Q");
+    EXPECT_EQ(editor().tableModel().index(0, 3).data().toString(), "Q");
 }
 
 TEST_F(HotkeyAssignment, EveryMarkerOfEverySectionGetsTheKey) {
@@ -38,7 +38,7 @@ TEST_F(HotkeyAssignment, EveryMarkerOfEverySectionGetsTheKey) {
     launch();
     clickRow(7);
     choose(*ui().keysPopup, "K");
-    EXPECT_EQ(vc().mainDic[7].at(new_edit),
+    EXPECT_EQ(editor().mainDic()[7].at(new_edit),
               "// A\n[A001]\nTip=a\nHotkey=K\nUnhotkey=K\n// B\n[A002]\nTip=b\nResearchhotkey=K");
 }
 
@@ -49,8 +49,8 @@ TEST_F(HotkeyAssignment, TemplateWithoutMarkerIsTakenUnchanged) {
     launch();
     clickRow(2);
     choose(*ui().keysPopup, "X");
-    EXPECT_EQ(vc().mainDic[2].at(new_edit), "// stop\n[CmdStop]\nTip=Stop\nHotkey=S");
-    EXPECT_EQ(vc().mainDic[2].at(new_hotkey), "X");
+    EXPECT_EQ(editor().mainDic()[2].at(new_edit), "// stop\n[CmdStop]\nTip=Stop\nHotkey=S");
+    EXPECT_EQ(editor().mainDic()[2].at(new_hotkey), "X");
 }
 
 TEST_F(HotkeyAssignment, TwoAbilitiesOfOneUnitMayShareALetter) {
@@ -66,8 +66,8 @@ TEST_F(HotkeyAssignment, TwoAbilitiesOfOneUnitMayShareALetter) {
     choose(*ui().keysPopup, "D");
     clickRow(static_cast<int>(first + 1));
     choose(*ui().keysPopup, "D");
-    EXPECT_EQ(vc().mainDic[first].at(new_hotkey), "D");
-    EXPECT_EQ(vc().mainDic[first + 1].at(new_hotkey), "D");
+    EXPECT_EQ(editor().mainDic()[first].at(new_hotkey), "D");
+    EXPECT_EQ(editor().mainDic()[first + 1].at(new_hotkey), "D");
 }
 
 TEST_F(HotkeyAssignment, AssignmentChangesOnlyThatRecordAndIsNotStored) {
@@ -76,7 +76,7 @@ TEST_F(HotkeyAssignment, AssignmentChangesOnlyThatRecordAndIsNotStored) {
     choose(*ui().keysPopup, "Y");
     for (std::size_t r = 0; r < all_data().size(); ++r) {
         if (r != 20) {
-            EXPECT_EQ(vc().mainDic[r], all_data()[r]);
+            EXPECT_EQ(editor().mainDic()[r], all_data()[r]);
         }
     }
     EXPECT_EQ(storedMainDic(), all_data());
@@ -90,13 +90,13 @@ TEST_F(HotkeyAssignment, ResetDropsEveryChoiceAndShowsTheDefault) {
     }
     clickRow(30);
     click(*ui().resetButton);
-    EXPECT_EQ(vc().mainDic, all_data());
-    for (const AbilityRecord& record : vc().mainDic) {
+    EXPECT_EQ(editor().mainDic(), all_data());
+    for (const AbilityRecord& record : editor().mainDic()) {
         EXPECT_EQ(record.at(new_edit), "");
     }
     EXPECT_EQ(selected(), 30);
     EXPECT_EQ(ui().keysPopup->currentText().toStdString(), all_data()[30].at(def_hotkey));
-    EXPECT_EQ(vc().tableModel().index(9, 3).data().toString(), "");
+    EXPECT_EQ(editor().tableModel().index(9, 3).data().toString(), "");
 }
 
 TEST_F(HotkeyAssignment, ResetWithAnotherRowSelectedKeepsThatRow) {
@@ -112,7 +112,7 @@ TEST_F(HotkeyAssignment, ResetWithAnotherRowSelectedKeepsThatRow) {
 TEST_F(HotkeyAssignment, ResetDoesNotWriteTheStore) {
     launch();
     click(*ui().gridButton);
-    const auto laidOut = vc().mainDic;
+    const auto laidOut = editor().mainDic();
     ASSERT_NE(laidOut, all_data());
     click(*ui().resetButton);
     EXPECT_EQ(storedMainDic(), laidOut);
@@ -125,7 +125,7 @@ TEST_F(HotkeyAssignment, ResetOfAShorterStoredListBringsBackTheWholeCatalogue) {
     launch();
     clickRow(3);
     click(*ui().resetButton);
-    EXPECT_EQ(vc().tableModel().rowCount(), static_cast<int>(all_data().size()));
+    EXPECT_EQ(editor().tableModel().rowCount(), static_cast<int>(all_data().size()));
     EXPECT_EQ(selected(), 3);
     EXPECT_EQ(ui().spellLbl->text().toStdString(), all_data()[3].at(name_spell));
 }

@@ -38,14 +38,14 @@ protected:
     // Runs File ▸ Import CustomKeys… and answers its dialog; returns once the answer and any
     // message have been handled.
     void importAnswering(std::optional<QString> path) {
-        QSignalSpy finished(&vc(), &ViewController::importFinished);
-        vc().fileDialog().setNextAnswer(std::move(path));
+        QSignalSpy finished(&exchange(), &FileExchangeController::importFinished);
+        exchange().fileDialog().setNextAnswer(std::move(path));
         ui().actionImport->trigger();
         ASSERT_TRUE(!finished.isEmpty() || finished.wait(5000));
     }
     void exportAnswering(const QString& path) {
-        QSignalSpy finished(&vc(), &ViewController::exportFinished);
-        vc().fileDialog().setNextAnswer(path);
+        QSignalSpy finished(&exchange(), &FileExchangeController::exportFinished);
+        exchange().fileDialog().setNextAnswer(path);
         click(*ui().exportButton);
         ASSERT_TRUE(!finished.isEmpty() || finished.wait(5000));
     }
@@ -82,13 +82,13 @@ TEST_F(ImportWindow, TheFileMenuOffersImportBeforeExportOnCtrlO) {
 }
 
 TEST_F(ImportWindow, CtrlOImports) {
-    QSignalSpy finished(&vc(), &ViewController::importFinished);
-    vc().fileDialog().setNextAnswer(dataFile("export-hand-set.txt"));
+    QSignalSpy finished(&exchange(), &FileExchangeController::importFinished);
+    exchange().fileDialog().setNextAnswer(dataFile("export-hand-set.txt"));
     window().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window(), 5000));
     QTest::keyClick(&window(), Qt::Key_O, Qt::ControlModifier);
     ASSERT_TRUE(!finished.isEmpty() || finished.wait(5000));
-    EXPECT_EQ(vc().mainDic[0].at(new_hotkey), "Q");
+    EXPECT_EQ(editor().mainDic()[0].at(new_hotkey), "Q");
 }
 
 TEST_F(ImportWindow, TheGamesOwnFileExportsAsTheUntouchedList) {
@@ -98,7 +98,7 @@ TEST_F(ImportWindow, TheGamesOwnFileExportsAsTheUntouchedList) {
     EXPECT_EQ(message().informativeText, "");
     EXPECT_EQ(message().icon, QMessageBox::Information);
     EXPECT_EQ(message().buttons, QStringList{"OK"});
-    EXPECT_EQ(vc().mainDic, all_data());
+    EXPECT_EQ(editor().mainDic(), all_data());
     const QString target = tempPath("CustomKeys.txt");
     exportAnswering(target);
     EXPECT_EQ(bytesOf(target), golden("export-untouched.txt"));
@@ -114,7 +114,7 @@ TEST_F(ImportWindow, HandSetKeysRoundTrip) {
     EXPECT_EQ(first, golden("export-hand-set.txt"));
     EXPECT_EQ(second, first);
     EXPECT_EQ(message().text, "160 hotkeys read, 3 changed.");
-    EXPECT_EQ(vc().tableModel().index(9, 3).data().toString(), "Z");
+    EXPECT_EQ(editor().tableModel().index(9, 3).data().toString(), "Z");
 }
 
 TEST_F(ImportWindow, GridLayoutRoundTrips) {
@@ -161,7 +161,7 @@ TEST_F(ImportWindow, NamesInAnyCaseReadAsTheGameReadsThem) {
 TEST_F(ImportWindow, ImportKeepsTheStoreAsItWas) {
     const QByteArray store = bytesOf(storePath());
     importAnswering(dataFile("export-grid-layout.txt"));
-    EXPECT_NE(vc().mainDic, all_data());
+    EXPECT_NE(editor().mainDic(), all_data());
     EXPECT_EQ(bytesOf(storePath()), store);
     EXPECT_EQ(storedMainDic(), all_data());
 }
@@ -179,8 +179,8 @@ TEST_F(ImportWindow, AbilitiesTheFileLacksKeepTheirKeysAndTheMessageSaysSo) {
     const QString file = tempPath("two.txt");
     writeFile(file, "// mine\r\n[CmdMove]\r\nHotkey=Q\r\n[Xunknown]\r\nHotkey=W\r\n");
     importAnswering(file);
-    EXPECT_EQ(vc().mainDic[0].at(new_hotkey), "Q");
-    EXPECT_EQ(vc().mainDic[3].at(new_hotkey), "K");
+    EXPECT_EQ(editor().mainDic()[0].at(new_hotkey), "Q");
+    EXPECT_EQ(editor().mainDic()[3].at(new_hotkey), "K");
     EXPECT_EQ(message().text, "1 hotkey read, 1 changed; 1 section of the file is not in the "
                               "catalogue and was left out.");
     EXPECT_EQ(message().informativeText,
@@ -190,12 +190,12 @@ TEST_F(ImportWindow, AbilitiesTheFileLacksKeepTheirKeysAndTheMessageSaysSo) {
 TEST_F(ImportWindow, AFileThatCannotBeReadChangesNothing) {
     clickRow(3);
     choose(*ui().keysPopup, "K");
-    const auto before = vc().mainDic;
+    const auto before = editor().mainDic();
     importAnswering(tempPath("missing.txt"));
     EXPECT_EQ(message().text, "“missing.txt” could not be read.");
     EXPECT_TRUE(message().informativeText.endsWith("Nothing was changed."));
     EXPECT_EQ(message().icon, QMessageBox::Warning);
-    EXPECT_EQ(vc().mainDic, before);
+    EXPECT_EQ(editor().mainDic(), before);
 }
 
 TEST_F(ImportWindow, AFolderIsNoFileToRead) {
@@ -205,13 +205,13 @@ TEST_F(ImportWindow, AFolderIsNoFileToRead) {
     EXPECT_EQ(message().icon, QMessageBox::Warning);
     EXPECT_EQ(message().informativeText,
               "It is a folder, not a regular file. Nothing was changed.");
-    EXPECT_EQ(vc().mainDic, all_data());
+    EXPECT_EQ(editor().mainDic(), all_data());
 }
 
 TEST_F(ImportWindow, ANamedPipeIsTurnedAwayWithoutWaitingForAWriter) {
     clickRow(3);
     choose(*ui().keysPopup, "K");
-    const auto before = vc().mainDic;
+    const auto before = editor().mainDic();
     const QString pipe = tempPath("x.fifo");
     ASSERT_TRUE(makeNamedPipe(pipe));
     {
@@ -225,7 +225,7 @@ TEST_F(ImportWindow, ANamedPipeIsTurnedAwayWithoutWaitingForAWriter) {
     EXPECT_EQ(message().informativeText,
               "It is a named pipe, not a regular file. Nothing was changed.");
     EXPECT_EQ(message().icon, QMessageBox::Warning);
-    EXPECT_EQ(vc().mainDic, before);
+    EXPECT_EQ(editor().mainDic(), before);
     EXPECT_TRUE(isNamedPipe(pipe));
 }
 
@@ -236,7 +236,7 @@ TEST_F(ImportWindow, ASocketIsTurnedAway) {
     EXPECT_EQ(message().text, "“keys.sock” could not be read.");
     EXPECT_EQ(message().informativeText,
               "It is a socket, not a regular file. Nothing was changed.");
-    EXPECT_EQ(vc().mainDic, all_data());
+    EXPECT_EQ(editor().mainDic(), all_data());
 }
 
 TEST_F(ImportWindow, ADeviceIsTurnedAway) {
@@ -248,19 +248,19 @@ TEST_F(ImportWindow, ADeviceIsTurnedAway) {
         EXPECT_EQ(message().informativeText,
                   "It is a character device, not a regular file. Nothing was changed.");
     }
-    EXPECT_EQ(vc().mainDic, all_data());
+    EXPECT_EQ(editor().mainDic(), all_data());
 }
 
 TEST_F(ImportWindow, AFileWithoutAnAbilityOfTheListChangesNothing) {
     clickRow(3);
     choose(*ui().keysPopup, "K");
-    const auto before = vc().mainDic;
+    const auto before = editor().mainDic();
     const QString file = tempPath("notes.txt");
     writeFile(file, "\xEF\xBB\xBF[Hpal]\r\nHotkey=P\r\nsome notes\r\n");
     importAnswering(file);
     EXPECT_EQ(message().text, "“notes.txt” holds no hotkeys of the abilities in the list.");
     EXPECT_EQ(message().informativeText, "Nothing was changed.");
-    EXPECT_EQ(vc().mainDic, before);
+    EXPECT_EQ(editor().mainDic(), before);
 }
 
 TEST_F(ImportWindow, AnEmptyFileChangesNothing) {
@@ -268,7 +268,7 @@ TEST_F(ImportWindow, AnEmptyFileChangesNothing) {
     writeFile(file, "");
     importAnswering(file);
     EXPECT_EQ(message().text, "“empty.txt” holds no hotkeys of the abilities in the list.");
-    EXPECT_EQ(vc().mainDic, all_data());
+    EXPECT_EQ(editor().mainDic(), all_data());
 }
 
 TEST_F(ImportWindow, AFileTooLargeForHotkeysIsNotRead) {
@@ -278,19 +278,19 @@ TEST_F(ImportWindow, AFileTooLargeForHotkeysIsNotRead) {
     writeFile(file, bytes);
     importAnswering(file);
     EXPECT_EQ(message().text, "“huge.txt” is too large for a hotkey file.");
-    EXPECT_EQ(vc().mainDic, all_data());
+    EXPECT_EQ(editor().mainDic(), all_data());
 }
 
 TEST_F(ImportWindow, CancellingShowsNothingAndChangesNothing) {
     importAnswering(std::nullopt);
     EXPECT_TRUE(alerts().shown.empty());
-    EXPECT_EQ(vc().mainDic, all_data());
+    EXPECT_EQ(editor().mainDic(), all_data());
 }
 
 TEST_F(ImportWindow, TheDialogOpensAnExistingTextFileWhereTheUserSays) {
     const QString file = tempPath("keys.txt");
     writeFile(file, bytesOf(dataFile("export-hand-set.txt")));
-    QSignalSpy finished(&vc(), &ViewController::importFinished);
+    QSignalSpy finished(&exchange(), &FileExchangeController::importFinished);
     ui().actionImport->trigger();
     QFileDialog* dialog = openFileDialog();
     ASSERT_NE(dialog, nullptr);
@@ -310,14 +310,14 @@ TEST_F(ImportWindow, TheDialogOpensAnExistingTextFileWhereTheUserSays) {
 }
 
 TEST_F(ImportWindow, TheDialogCancelledByThePlayerChangesNothing) {
-    QSignalSpy finished(&vc(), &ViewController::importFinished);
+    QSignalSpy finished(&exchange(), &FileExchangeController::importFinished);
     ui().actionImport->trigger();
     QFileDialog* dialog = openFileDialog();
     ASSERT_NE(dialog, nullptr);
     QTest::keyClick(dialog, Qt::Key_Escape);
     ASSERT_TRUE(!finished.isEmpty() || finished.wait(5000));
     EXPECT_TRUE(alerts().shown.empty());
-    EXPECT_EQ(vc().mainDic, all_data());
+    EXPECT_EQ(editor().mainDic(), all_data());
 }
 
 } // namespace

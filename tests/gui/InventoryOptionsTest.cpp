@@ -121,16 +121,16 @@ TEST_F(InventoryOptionsPanel, BothOptionsStartOffAndAFirstStartWritesNoOptionsFi
     EXPECT_FALSE(ui().pauseInChatBox->isChecked());
     EXPECT_FALSE(ui().onlyInGameBox->isHidden());
     EXPECT_FALSE(ui().pauseInChatBox->isHidden());
-    EXPECT_FALSE(vc().inventoryOptions.onlyWhileGameInFront);
-    EXPECT_FALSE(vc().inventoryOptions.pauseWhileTypingInChat);
+    EXPECT_FALSE(app().inventoryBindings().options.onlyWhileGameInFront);
+    EXPECT_FALSE(app().inventoryBindings().options.pauseWhileTypingInChat);
     EXPECT_FALSE(QFile::exists(programOptionsPath()));
 }
 
 TEST_F(InventoryOptionsPanel, OptionsAreStoredInTheirOwnFileAndRestoredAtTheNextStart) {
     launch();
     click(*ui().onlyInGameBox);
-    EXPECT_TRUE(vc().inventoryOptions.onlyWhileGameInFront);
-    EXPECT_FALSE(vc().inventoryOptions.pauseWhileTypingInChat);
+    EXPECT_TRUE(app().inventoryBindings().options.onlyWhileGameInFront);
+    EXPECT_FALSE(app().inventoryBindings().options.pauseWhileTypingInChat);
     EXPECT_TRUE(storedOptions().onlyWhileGameInFront);
     EXPECT_FALSE(storedOptions().pauseWhileTypingInChat);
     EXPECT_EQ(programOptionsPath(),
@@ -144,11 +144,11 @@ TEST_F(InventoryOptionsPanel, OptionsAreStoredInTheirOwnFileAndRestoredAtTheNext
     launch();
     EXPECT_TRUE(ui().onlyInGameBox->isChecked());
     EXPECT_TRUE(ui().pauseInChatBox->isChecked());
-    EXPECT_TRUE(vc().inventoryOptions.onlyWhileGameInFront);
-    EXPECT_TRUE(vc().inventoryOptions.pauseWhileTypingInChat);
+    EXPECT_TRUE(app().inventoryBindings().options.onlyWhileGameInFront);
+    EXPECT_TRUE(app().inventoryBindings().options.pauseWhileTypingInChat);
 
     click(*ui().onlyInGameBox);
-    EXPECT_FALSE(vc().inventoryOptions.onlyWhileGameInFront);
+    EXPECT_FALSE(app().inventoryBindings().options.onlyWhileGameInFront);
     EXPECT_FALSE(storedOptions().onlyWhileGameInFront);
     launch();
     EXPECT_FALSE(ui().onlyInGameBox->isChecked());
@@ -164,7 +164,7 @@ TEST_F(InventoryOptionsPanel, ADamagedOptionsFileReadsAsOff) {
     launch();
     EXPECT_FALSE(ui().onlyInGameBox->isChecked());
     EXPECT_FALSE(ui().pauseInChatBox->isChecked());
-    EXPECT_FALSE(vc().inventoryOptions.onlyWhileGameInFront);
+    EXPECT_FALSE(app().inventoryBindings().options.onlyWhileGameInFront);
 }
 
 TEST_F(InventoryOptionsPanel, OnlyWhileTheGameIsInFrontGatesTheTapsOnceTicked) {

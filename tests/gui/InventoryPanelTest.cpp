@@ -23,27 +23,27 @@ protected:
 };
 
 TEST_F(InventoryPanel, ControlsStayHiddenUntilTheFirstSlotIsChosen) {
-    EXPECT_EQ(vc().inventoryEditNow, 0);
+    EXPECT_EQ(panel().inventoryEditNow(), 0);
     EXPECT_TRUE(ui().inventPopup->isHidden());
     EXPECT_TRUE(ui().isShiftBox->isHidden());
     EXPECT_TRUE(ui().delBTN->isHidden());
     click(slotButton(4));
-    EXPECT_EQ(vc().inventoryEditNow, 4);
+    EXPECT_EQ(panel().inventoryEditNow(), 4);
     EXPECT_FALSE(ui().inventPopup->isHidden());
     EXPECT_FALSE(ui().isShiftBox->isHidden());
     EXPECT_FALSE(ui().delBTN->isHidden());
     click(slotButton(2));
-    EXPECT_EQ(vc().inventoryEditNow, 2);
+    EXPECT_EQ(panel().inventoryEditNow(), 2);
     EXPECT_FALSE(ui().inventPopup->isHidden());
 }
 
 TEST_F(InventoryPanel, SlotThreeWithoutShiftOnQ) {
     click(slotButton(3));
     choose(*ui().inventPopup, "Q");
-    EXPECT_EQ(vc().inventoryModels[2], (InventoryModel{3, 0, 12}));
-    EXPECT_EQ(storedInventoryModel(3), (InventoryModel{3, 0, 12}));
+    EXPECT_EQ(app().inventoryBindings().of(3), (SlotBinding{3, 0, 12}));
+    EXPECT_EQ(storedInventoryModel(3), (SlotBinding{3, 0, 12}));
     for (int other : {1, 2, 4, 5, 6}) {
-        EXPECT_TRUE(vc().inventoryModels[static_cast<std::size_t>(other - 1)].empty());
+        EXPECT_FALSE(app().inventoryBindings().of(other).has_value());
         EXPECT_FALSE(storeHasKey(QStringLiteral("inventoryModel%1").arg(other)));
     }
 }
@@ -53,21 +53,21 @@ TEST_F(InventoryPanel, SlotOneWithShiftOnOne) {
     click(*ui().isShiftBox);
     ASSERT_TRUE(shownShift());
     choose(*ui().inventPopup, "1");
-    EXPECT_EQ(vc().inventoryModels[0], (InventoryModel{1, 56, 18}));
-    EXPECT_EQ(storedInventoryModel(1), (InventoryModel{1, 56, 18}));
+    EXPECT_EQ(app().inventoryBindings().of(1), (SlotBinding{1, 56, 18}));
+    EXPECT_EQ(storedInventoryModel(1), (SlotBinding{1, 56, 18}));
 }
 
 TEST_F(InventoryPanel, SelectIsStoredAsNoKeyAndShowsAsStored) {
     click(slotButton(5));
     choose(*ui().inventPopup, "W");
     choose(*ui().inventPopup, "Select");
-    EXPECT_EQ(vc().inventoryModels[4], (InventoryModel{5, 0, -1}));
-    EXPECT_EQ(storedInventoryModel(5), (InventoryModel{5, 0, -1}));
+    EXPECT_EQ(app().inventoryBindings().of(5), (SlotBinding{5, 0, -1}));
+    EXPECT_EQ(storedInventoryModel(5), (SlotBinding{5, 0, -1}));
 
     click(slotButton(6));
     click(*ui().isShiftBox);
     choose(*ui().inventPopup, "Select");
-    EXPECT_EQ(storedInventoryModel(6), (InventoryModel{6, 56, -1}));
+    EXPECT_EQ(storedInventoryModel(6), (SlotBinding{6, 56, -1}));
 
     click(slotButton(5));
     EXPECT_EQ(shownTitle(), "Select");
@@ -80,7 +80,7 @@ TEST_F(InventoryPanel, SelectIsStoredAsNoKeyAndShowsAsStored) {
 TEST_F(InventoryPanel, TickingTheBoxAloneStoresNothingAndShowsSelect) {
     click(slotButton(2));
     choose(*ui().inventPopup, "E");
-    ASSERT_EQ(storedInventoryModel(2), (InventoryModel{2, 0, 14}));
+    ASSERT_EQ(storedInventoryModel(2), (SlotBinding{2, 0, 14}));
     const QByteArray before = [&] {
         QFile f(storePath());
         return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
@@ -88,21 +88,21 @@ TEST_F(InventoryPanel, TickingTheBoxAloneStoresNothingAndShowsSelect) {
     click(*ui().isShiftBox);
     EXPECT_TRUE(shownShift());
     EXPECT_EQ(shownTitle(), "Select");
-    EXPECT_EQ(vc().inventoryModels[1], (InventoryModel{2, 0, 14}));
-    EXPECT_EQ(storedInventoryModel(2), (InventoryModel{2, 0, 14}));
+    EXPECT_EQ(app().inventoryBindings().of(2), (SlotBinding{2, 0, 14}));
+    EXPECT_EQ(storedInventoryModel(2), (SlotBinding{2, 0, 14}));
     QFile after(storePath());
     ASSERT_TRUE(after.open(QIODevice::ReadOnly));
     EXPECT_EQ(after.readAll(), before);
     // Picking the key again stores it with the new modifier.
     choose(*ui().inventPopup, "E");
-    EXPECT_EQ(storedInventoryModel(2), (InventoryModel{2, 56, 14}));
+    EXPECT_EQ(storedInventoryModel(2), (SlotBinding{2, 56, 14}));
 }
 
 TEST_F(InventoryPanel, UnknownStoredCodeShowsSelectWithTheBoxTicked) {
     shutDown();
     storeInventoryModel(5, {5, 56, 999});
     launch();
-    EXPECT_EQ(vc().inventoryModels[4], (InventoryModel{5, 56, 999}));
+    EXPECT_EQ(app().inventoryBindings().of(5), (SlotBinding{5, 56, 999}));
     click(slotButton(5));
     EXPECT_EQ(shownTitle(), "Select");
     EXPECT_TRUE(shownShift());
@@ -116,12 +116,12 @@ TEST_F(InventoryPanel, DeleteRemovesOnlyTheEditedSlot) {
     choose(*ui().inventPopup, "7");
     ASSERT_TRUE(storeHasKey("inventoryModel2"));
     click(*ui().delBTN);
-    EXPECT_TRUE(vc().inventoryModels[1].empty());
+    EXPECT_FALSE(app().inventoryBindings().of(2).has_value());
     EXPECT_FALSE(storeHasKey("inventoryModel2"));
-    EXPECT_EQ(vc().inventoryModels[3], (InventoryModel{4, 0, 15}));
-    EXPECT_EQ(storedInventoryModel(4), (InventoryModel{4, 0, 15}));
+    EXPECT_EQ(app().inventoryBindings().of(4), (SlotBinding{4, 0, 15}));
+    EXPECT_EQ(storedInventoryModel(4), (SlotBinding{4, 0, 15}));
     // The panel keeps editing slot 2, showing it unbound.
-    EXPECT_EQ(vc().inventoryEditNow, 2);
+    EXPECT_EQ(panel().inventoryEditNow(), 2);
     EXPECT_EQ(shownTitle(), "Select");
     EXPECT_FALSE(shownShift());
     EXPECT_FALSE(ui().delBTN->isHidden());
@@ -132,8 +132,8 @@ TEST_F(InventoryPanel, TwoSlotsMayShareAKey) {
     choose(*ui().inventPopup, "F");
     click(slotButton(6));
     choose(*ui().inventPopup, "F");
-    EXPECT_EQ(storedInventoryModel(1), (InventoryModel{1, 0, 3}));
-    EXPECT_EQ(storedInventoryModel(6), (InventoryModel{6, 0, 3}));
+    EXPECT_EQ(storedInventoryModel(1), (SlotBinding{1, 0, 3}));
+    EXPECT_EQ(storedInventoryModel(6), (SlotBinding{6, 0, 3}));
 }
 
 TEST_F(InventoryPanel, UnboundSlotShowsSelectAndAnUntickedBoxWhateverWasShown) {
@@ -151,10 +151,10 @@ TEST_F(InventoryPanel, UnboundSlotShowsSelectAndAnUntickedBoxWhateverWasShown) {
 
 TEST_F(InventoryPanel, DeleteOrKeyPickWithoutASlotChangesOnlyTheControls) {
     // The controls are hidden until a slot is chosen; their actions still run safely.
-    vc().setInventoryKey();
-    vc().eraseKey();
+    panel().setInventory();
+    panel().eraseKey();
     for (int n = 1; n <= 6; ++n) {
-        EXPECT_TRUE(vc().inventoryModels[static_cast<std::size_t>(n - 1)].empty());
+        EXPECT_FALSE(app().inventoryBindings().of(n).has_value());
         EXPECT_FALSE(storeHasKey(QStringLiteral("inventoryModel%1").arg(n)));
     }
     EXPECT_EQ(shownTitle(), "Select");
@@ -164,7 +164,7 @@ TEST_F(InventoryPanel, BindingsSurviveTheNextStart) {
     click(slotButton(3));
     choose(*ui().inventPopup, "~");
     launch();
-    EXPECT_EQ(vc().inventoryModels[2], storedInventoryModel(3).value());
+    EXPECT_EQ(app().inventoryBindings().of(3), storedInventoryModel(3).value());
     click(slotButton(3));
     EXPECT_EQ(shownTitle(), "~");
 }
@@ -175,10 +175,10 @@ TEST_F(InventoryPanel, EverySymbolAndLetterCanBeBound) {
     for (int i = 1; i < popup.count(); ++i) {
         const QString title = popup.itemText(i);
         choose(popup, title);
-        const InventoryModel model = storedInventoryModel(6).value();
-        ASSERT_EQ(model.size(), 3u);
-        EXPECT_EQ(model[0], 6);
-        EXPECT_GE(model[2], 0) << title.toStdString();
+        const SlotBinding binding = storedInventoryModel(6).value();
+        ASSERT_FALSE(binding.isCutShort());
+        EXPECT_EQ(binding.slot, 6);
+        EXPECT_GE(binding.key, 0) << title.toStdString();
         click(slotButton(6));
         EXPECT_EQ(shownTitle(), title);
     }

@@ -33,9 +33,9 @@ protected:
         return titles;
     }
     QByteArray exported() {
-        QSignalSpy finished(&vc(), &ViewController::exportFinished);
+        QSignalSpy finished(&exchange(), &FileExchangeController::exportFinished);
         const QString path = tempPath("CustomKeys.txt");
-        vc().fileDialog().setNextAnswer(path);
+        exchange().fileDialog().setNextAnswer(path);
         click(*ui().exportButton);
         EXPECT_TRUE(!finished.isEmpty() || finished.wait(5000));
         return bytesOf(path);
@@ -86,11 +86,11 @@ TEST_F(KeyboardLayoutWindow, AKeyChosenByItsLayoutNameIsStoredByPosition) {
     launchWith(frenchKeysyms());
     click(*ui().invent2);
     choose(*ui().inventPopup, "A"); // the US Q position
-    EXPECT_EQ(storedInventoryModel(2), (InventoryModel{2, 0, 12}));
+    EXPECT_EQ(storedInventoryModel(2), (SlotBinding{2, 0, 12}));
     choose(*ui().inventPopup, "M"); // the US semicolon position
-    EXPECT_EQ(storedInventoryModel(2), (InventoryModel{2, 0, 41}));
+    EXPECT_EQ(storedInventoryModel(2), (SlotBinding{2, 0, 41}));
     choose(*ui().inventPopup, "\u00C9"); // the US 2 position
-    EXPECT_EQ(storedInventoryModel(2), (InventoryModel{2, 0, 19}));
+    EXPECT_EQ(storedInventoryModel(2), (SlotBinding{2, 0, 19}));
     EXPECT_EQ(ui().invent2->text(), "Slot 2  \u00C9");
 }
 
@@ -114,8 +114,8 @@ TEST_F(KeyboardLayoutWindow, ANewLayoutRenamesTheKeysAndChangesNoBinding) {
     EXPECT_EQ(ui().invent1->text(), "Slot 1  Shift+Z");
     EXPECT_EQ(popupTitles()[16], ";");
 
-    EXPECT_EQ(storedInventoryModel(1), (InventoryModel{1, 56, 6}));
-    EXPECT_EQ(vc().inventoryModels[0], (InventoryModel{1, 56, 6}));
+    EXPECT_EQ(storedInventoryModel(1), (SlotBinding{1, 56, 6}));
+    EXPECT_EQ(app().inventoryBindings().of(1), (SlotBinding{1, 56, 6}));
 }
 
 TEST_F(KeyboardLayoutWindow, GridOptionStartsOffAndTheGridIsTheUsualOne) {
@@ -149,17 +149,17 @@ TEST_F(KeyboardLayoutWindow, GridFollowsQwertzAndUsWithTheUsualLetters) {
 TEST_F(KeyboardLayoutWindow, TheOptionChangesOnlyTheNextGridLayout) {
     launchWith(frenchKeysyms());
     click(*ui().gridButton);
-    const std::vector<AbilityRecord> laidOut = vc().mainDic;
+    const std::vector<AbilityRecord> laidOut = editor().mainDic();
     click(gridFollowsBox());
-    EXPECT_EQ(vc().mainDic, laidOut);
+    EXPECT_EQ(editor().mainDic(), laidOut);
     EXPECT_EQ(storedMainDic(), laidOut);
     // The layout changing does not lay the grid out again either.
     fakes().keyLabels->switchTo(germanKeysyms());
-    EXPECT_EQ(vc().mainDic, laidOut);
+    EXPECT_EQ(editor().mainDic(), laidOut);
     fakes().keyLabels->switchTo(frenchKeysyms());
     click(*ui().gridButton);
-    EXPECT_NE(vc().mainDic, laidOut);
-    EXPECT_EQ(storedMainDic(), vc().mainDic);
+    EXPECT_NE(editor().mainDic(), laidOut);
+    EXPECT_EQ(storedMainDic(), editor().mainDic());
 }
 
 TEST_F(KeyboardLayoutWindow, TheOptionIsKeptForTheNextStart) {

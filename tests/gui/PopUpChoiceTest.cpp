@@ -23,8 +23,8 @@ protected:
     }
 
     int rowNamed(const std::string& name) {
-        for (std::size_t r = 0; r < vc().mainDic.size(); ++r) {
-            if (vc().mainDic[r].at(name_spell) == name) {
+        for (std::size_t r = 0; r < editor().mainDic().size(); ++r) {
+            if (editor().mainDic()[r].at(name_spell) == name) {
                 return static_cast<int>(r);
             }
         }
@@ -44,8 +44,8 @@ protected:
     // The text the Export button writes now.
     std::string exported() {
         const QString target = tempPath(QStringLiteral("CustomKeys%1.txt").arg(++exports_));
-        QSignalSpy finished(&vc(), &ViewController::exportFinished);
-        vc().fileDialog().setNextAnswer(target);
+        QSignalSpy finished(&exchange(), &FileExchangeController::exportFinished);
+        exchange().fileDialog().setNextAnswer(target);
         click(*ui().exportButton);
         EXPECT_TRUE(!finished.isEmpty() || finished.wait(5000));
         return bytesOf(target).toStdString();
@@ -54,7 +54,7 @@ protected:
     // Nothing the player did changed a key: not in the working list, not in the export, and
     // nothing was written to the store.
     void expectNoKeyChanged(const QByteArray& storeBefore) {
-        EXPECT_EQ(vc().mainDic, all_data());
+        EXPECT_EQ(editor().mainDic(), all_data());
         EXPECT_EQ(bytesOf(storePath()), storeBefore);
         EXPECT_EQ(exported(), golden("export-untouched.txt").toStdString());
     }
@@ -102,7 +102,7 @@ TEST_F(PopUpChoice, WheelOverTheClosedHotkeyPopUpChangesNothing) {
 
     EXPECT_EQ(ui().keysPopup->currentText(), "H");
     EXPECT_FALSE(ui().keysPopup->view()->isVisible());
-    EXPECT_EQ(vc().tableModel().index(rowNamed("Hold"), 3).data().toString(), "");
+    EXPECT_EQ(editor().tableModel().index(rowNamed("Hold"), 3).data().toString(), "");
     expectNoKeyChanged(store);
 }
 
@@ -180,23 +180,23 @@ TEST_F(PopUpChoice, AChoiceFromTheOpenListChangesOneKeyThenTheArrowsMoveThroughA
     ASSERT_TRUE(ui().keysPopup->view()->isVisible());
     type(Qt::Key_Down);
     type(Qt::Key_Down);
-    EXPECT_EQ(vc().mainDic, all_data()) << "moving in the open list chose something";
+    EXPECT_EQ(editor().mainDic(), all_data()) << "moving in the open list chose something";
     type(Qt::Key_Return);
     waitForListClosed(*ui().keysPopup);
 
     EXPECT_EQ(ui().keysPopup->currentText(), "D");
     for (std::size_t r = 0; r < all_data().size(); ++r) {
         if (r != static_cast<std::size_t>(attack)) {
-            EXPECT_EQ(vc().mainDic[r], all_data()[r]) << "row " << r;
+            EXPECT_EQ(editor().mainDic()[r], all_data()[r]) << "row " << r;
         }
     }
-    EXPECT_EQ(vc().mainDic[static_cast<std::size_t>(attack)].at(new_hotkey), "D");
+    EXPECT_EQ(editor().mainDic()[static_cast<std::size_t>(attack)].at(new_hotkey), "D");
     // Attack's one hotkey line, and nothing else, now holds D.
     std::string attackWithD = all_data()[static_cast<std::size_t>(attack)].at(def);
     const std::size_t line = attackWithD.rfind("Hotkey=A");
     ASSERT_NE(line, std::string::npos);
     attackWithD.replace(line, 8, "Hotkey=D");
-    EXPECT_EQ(vc().mainDic[static_cast<std::size_t>(attack)].at(new_edit), attackWithD);
+    EXPECT_EQ(editor().mainDic()[static_cast<std::size_t>(attack)].at(new_edit), attackWithD);
     // Assigning a key is not stored.
     EXPECT_EQ(bytesOf(storePath()), store);
 
@@ -206,8 +206,8 @@ TEST_F(PopUpChoice, AChoiceFromTheOpenListChangesOneKeyThenTheArrowsMoveThroughA
     type(Qt::Key_Down);
     EXPECT_EQ(selected(), attack + 1);
     const std::size_t next = static_cast<std::size_t>(attack + 1);
-    EXPECT_EQ(vc().mainDic[next], all_data()[next]);
-    EXPECT_EQ(vc().mainDic[static_cast<std::size_t>(attack)].at(new_hotkey), "D");
+    EXPECT_EQ(editor().mainDic()[next], all_data()[next]);
+    EXPECT_EQ(editor().mainDic()[static_cast<std::size_t>(attack)].at(new_hotkey), "D");
 
     // The export is the untouched one but for Attack's hotkey line.
     std::string expected = golden("export-untouched.txt").toStdString();
@@ -226,9 +226,9 @@ TEST_F(PopUpChoice, ChoosingTheShownKeyAgainStillAssignsIt) {
     type(Qt::Key_Return);
     ASSERT_TRUE(ui().keysPopup->view()->isVisible());
     type(Qt::Key_Return);
-    EXPECT_EQ(vc().mainDic[static_cast<std::size_t>(hold)].at(new_hotkey), "H");
+    EXPECT_EQ(editor().mainDic()[static_cast<std::size_t>(hold)].at(new_hotkey), "H");
     // Its default text already holds H, so the filled template is that text.
-    EXPECT_EQ(vc().mainDic[static_cast<std::size_t>(hold)].at(new_edit),
+    EXPECT_EQ(editor().mainDic()[static_cast<std::size_t>(hold)].at(new_edit),
               all_data()[static_cast<std::size_t>(hold)].at(def));
 }
 
@@ -240,7 +240,7 @@ TEST_F(PopUpChoice, SelectingRowsMovesThePopUpWithoutAssigningAnything) {
     type(Qt::Key_Down);
     EXPECT_EQ(selected(), 5);
     EXPECT_EQ(ui().keysPopup->currentText(), QString::fromStdString(all_data()[5].at(def_hotkey)));
-    EXPECT_EQ(vc().mainDic, all_data());
+    EXPECT_EQ(editor().mainDic(), all_data());
 }
 
 TEST_F(PopUpChoice, WheelOverTheClosedInventoryPopUpBindsNothing) {
@@ -253,7 +253,7 @@ TEST_F(PopUpChoice, WheelOverTheClosedInventoryPopUpBindsNothing) {
     QApplication::processEvents();
 
     EXPECT_EQ(ui().inventPopup->currentText(), "Select");
-    EXPECT_TRUE(vc().inventoryModels[0].empty());
+    EXPECT_FALSE(app().inventoryBindings().of(1).has_value());
     EXPECT_FALSE(storeHasKey(QStringLiteral("inventoryModel1")));
     EXPECT_EQ(bytesOf(storePath()), store);
 }
@@ -261,7 +261,7 @@ TEST_F(PopUpChoice, WheelOverTheClosedInventoryPopUpBindsNothing) {
 TEST_F(PopUpChoice, KeysOnTheClosedInventoryPopUpBindNothing) {
     click(slotButton(2));
     choose(*ui().inventPopup, "E");
-    ASSERT_EQ(storedInventoryModel(2), (InventoryModel{2, 0, 14}));
+    ASSERT_EQ(storedInventoryModel(2), (SlotBinding{2, 0, 14}));
     const QByteArray store = bytesOf(storePath());
     clickOpenThenEscape(*ui().inventPopup);
 
@@ -272,7 +272,7 @@ TEST_F(PopUpChoice, KeysOnTheClosedInventoryPopUpBindNothing) {
     QApplication::processEvents();
 
     EXPECT_EQ(ui().inventPopup->currentText(), "E");
-    EXPECT_EQ(vc().inventoryModels[1], (InventoryModel{2, 0, 14}));
+    EXPECT_EQ(app().inventoryBindings().of(2), (SlotBinding{2, 0, 14}));
     EXPECT_EQ(bytesOf(storePath()), store);
     for (int other : {1, 3, 4, 5, 6}) {
         EXPECT_FALSE(storeHasKey(QStringLiteral("inventoryModel%1").arg(other)));
@@ -296,16 +296,16 @@ TEST_F(PopUpChoice, AChoiceFromTheOpenInventoryListBindsOnceAndGivesTheFocusBack
     waitForListClosed(*ui().inventPopup);
 
     EXPECT_EQ(ui().inventPopup->currentText(), "3");
-    EXPECT_EQ(vc().inventoryModels[0], (InventoryModel{1, 0, 20}));
-    EXPECT_EQ(storedInventoryModel(1), (InventoryModel{1, 0, 20}));
+    EXPECT_EQ(app().inventoryBindings().of(1), (SlotBinding{1, 0, 20}));
+    EXPECT_EQ(storedInventoryModel(1), (SlotBinding{1, 0, 20}));
     for (int other : {2, 3, 4, 5, 6}) {
-        EXPECT_TRUE(vc().inventoryModels[static_cast<std::size_t>(other - 1)].empty());
+        EXPECT_FALSE(app().inventoryBindings().of(other).has_value());
         EXPECT_FALSE(storeHasKey(QStringLiteral("inventoryModel%1").arg(other)));
     }
     EXPECT_EQ(window().focusWidget(), ui().tableView);
     EXPECT_EQ(QApplication::focusWidget(), ui().tableView);
     EXPECT_EQ(selected(), row);
-    EXPECT_EQ(vc().mainDic, all_data());
+    EXPECT_EQ(editor().mainDic(), all_data());
 }
 
 } // namespace

@@ -36,8 +36,12 @@ TEST_F(RemapperWiring, NothingIsWatchedBeforeTheStartAndTheRemapperStartsCleared
     EXPECT_EQ(remapper.flagHold, -1);
     EXPECT_FALSE(remapper.isFlag);
     EXPECT_FALSE(remapper.isWarRun);
-    // The session reads the controller's bindings, not a copy of them.
-    built.controller().inventoryModels[0] = {1, 0, 12};
+    // The session keeps a copy of the bindings it was handed: a later change of the caller's
+    // reaches it only through the next hand-over.
+    InventoryBindings bindings;
+    bindings.of(1) = SlotBinding{1, 0, 12};
+    built.remapperSession().setBindings(bindings);
+    bindings.of(1).reset();
     built.remapperSession().installObservers();
     ASSERT_TRUE(parts.keyObserver->pressKey(12));
     EXPECT_EQ(parts.keyPoster->posts(), (Posts{"89 down", "89 up"}));

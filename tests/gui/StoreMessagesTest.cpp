@@ -74,7 +74,7 @@ TEST_F(StoreMessages, GridLayoutIntoAReadOnlyFolderKeepsTheMarkAndWarns) {
     // Nothing was stored (the file's bytes: a QSettings object on it would show what its twin
     // could not write), and the window says so.
     EXPECT_EQ(bytesOf(storePath()), before);
-    EXPECT_EQ(vc().mainDic, laidOut());
+    EXPECT_EQ(editor().mainDic(), laidOut());
     EXPECT_TRUE(marked());
     EXPECT_TRUE(warned());
     EXPECT_TRUE(warning().contains("Permission denied")) << warning().toStdString();
@@ -98,7 +98,7 @@ TEST_F(StoreMessages, ABindingWrittenLaterTakesTheUnwrittenListAlong) {
     // The store writes everything it holds at its next write.
     click(*ui().invent2);
     choose(*ui().inventPopup, "Q");
-    EXPECT_EQ(storedInventoryModel(2), (InventoryModel{2, 0, 12}));
+    EXPECT_EQ(storedInventoryModel(2), (SlotBinding{2, 0, 12}));
     EXPECT_EQ(storedMainDic(), laidOut());
     EXPECT_FALSE(marked());
     EXPECT_FALSE(warned());

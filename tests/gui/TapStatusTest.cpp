@@ -32,7 +32,7 @@ protected:
         click(*ui().invent1);
         click(*ui().isShiftBox);
         choose(*ui().inventPopup, "Z");
-        ASSERT_EQ(vc().inventoryModels[0], (InventoryModel{1, 56, 6}));
+        ASSERT_EQ(app().inventoryBindings().of(1), (SlotBinding{1, 56, 6}));
     }
     void pressShiftZ() {
         fakes().keyObserver->changeModifier(56);
@@ -43,7 +43,7 @@ protected:
 TEST_F(TapStatus, NothingIsShownBeforeTheFirstTap) {
     launch();
     EXPECT_EQ(tapLine().text(), "");
-    EXPECT_EQ(vc().tapStatus().shownTap(), std::nullopt);
+    EXPECT_EQ(panel().tapStatus().shownTap(), std::nullopt);
 }
 
 TEST_F(TapStatus, ATapIsShownOnTheEventLoopNotOnTheKeyPath) {
@@ -75,22 +75,22 @@ TEST_F(TapStatus, TheTapIsNamedByTheLayout) {
 
 TEST_F(TapStatus, TheLastTapFadesAfterAFewSeconds) {
     launch();
-    vc().tapStatus().setTimes(std::chrono::milliseconds(150), std::chrono::milliseconds(100));
+    panel().tapStatus().setTimes(std::chrono::milliseconds(150), std::chrono::milliseconds(100));
     click(*ui().invent3);
     choose(*ui().inventPopup, "Q");
     fakes().keyObserver->pressKey(12);
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return tapLine().text() == QStringLiteral("Q \u2192 Slot 3 (keypad 4)"); }, 5000))
         << tapLine().text().toStdString();
-    EXPECT_TRUE(vc().tapStatus().shownTap().has_value());
+    EXPECT_TRUE(panel().tapStatus().shownTap().has_value());
     EXPECT_TRUE(QTest::qWaitFor([&] { return tapLine().text() == QString(); }, 5000))
         << tapLine().text().toStdString();
-    EXPECT_EQ(vc().tapStatus().shownTap(), std::nullopt);
+    EXPECT_EQ(panel().tapStatus().shownTap(), std::nullopt);
 }
 
 TEST_F(TapStatus, ANewTapShowsAgainInFull) {
     launch();
-    vc().tapStatus().setTimes(std::chrono::milliseconds(150), std::chrono::milliseconds(2000));
+    panel().tapStatus().setTimes(std::chrono::milliseconds(150), std::chrono::milliseconds(2000));
     click(*ui().invent3);
     choose(*ui().inventPopup, "Q");
     fakes().keyObserver->pressKey(12);

@@ -18,8 +18,8 @@ protected:
     }
     bool marked() { return window().isWindowModified(); }
     void importFile(const QString& path) {
-        QSignalSpy finished(&vc(), &ViewController::importFinished);
-        vc().fileDialog().setNextAnswer(path);
+        QSignalSpy finished(&exchange(), &FileExchangeController::importFinished);
+        exchange().fileDialog().setNextAnswer(path);
         ui().actionImport->trigger();
         ASSERT_TRUE(!finished.isEmpty() || finished.wait(5000));
     }
@@ -44,7 +44,7 @@ TEST_F(UnstoredChoices, GridLayoutStoresTheListAndClearsTheMark) {
     choose(*ui().keysPopup, "Q");
     click(*ui().gridButton);
     EXPECT_FALSE(marked());
-    EXPECT_EQ(storedMainDic(), vc().mainDic);
+    EXPECT_EQ(storedMainDic(), editor().mainDic());
 }
 
 TEST_F(UnstoredChoices, ResetToTheStoredListClearsTheMark) {
@@ -83,7 +83,7 @@ TEST_F(UnstoredChoices, TheMarkedChoicesAreGoneAfterTheNextStart) {
     choose(*ui().keysPopup, "Q");
     ASSERT_TRUE(marked());
     launch();
-    EXPECT_EQ(vc().mainDic, all_data());
+    EXPECT_EQ(editor().mainDic(), all_data());
     EXPECT_FALSE(marked());
 }
 

@@ -21,8 +21,7 @@ class GameDetectionTimerTest : public ::testing::Test {
 protected:
     Platform platform = makeFakePlatform();
     FakeParts fakes = fakeParts(platform);
-    InventoryRemapper::Models models;
-    RemapperSession session{models, platform};
+    RemapperSession session{platform};
 };
 
 TEST_F(GameDetectionTimerTest, RepeatsEveryTwoSecondsFromTheStart) {

@@ -1,6 +1,7 @@
 // A binding cut short outside the program (fewer than three elements) cannot be read: the
 // program stops with the index-out-of-range message at the first key press tested against it,
 // and not before.
+#include "core/bindings/BindingArray.h"
 #include "core/remapper/RemapperSession.h"
 #include "platform/fake/FakePlatform.h"
 
@@ -16,43 +17,49 @@ protected:
         session.installObservers();
     }
 
+    // Binds slot `slot` to the stored array `values`, as the store would read it.
+    void bind(int slot, const std::vector<std::int64_t>& values) {
+        bindings.of(slot) = bindingFromArray(values);
+        session.setBindings(bindings);
+    }
+
     Platform platform = makeFakePlatform();
     FakeParts fakes = fakeParts(platform);
-    InventoryRemapper::Models models;
-    RemapperSession session{models, platform};
+    InventoryBindings bindings;
+    RemapperSession session{platform};
 };
 
 TEST_F(RemapperDeathTest, TwoElementBindingEndsTheProgramAtTheFirstKeyPress) {
-    models[2] = {3, 0};
+    bind(3, {3, 0});
     EXPECT_DEATH(fakes.keyObserver->pressKey(12), "Fatal error: Index out of range");
 }
 
 TEST_F(RemapperDeathTest, OneElementBindingEndsTheProgramWithAModifierHeld) {
-    models[0] = {1};
+    bind(1, {1});
     fakes.keyObserver->changeModifier(56);
     EXPECT_DEATH(fakes.keyObserver->pressKey(0), "Fatal error: Index out of range");
 }
 
 TEST_F(RemapperDeathTest, AnyKeyIsTestedAgainstTheShortBinding) {
     // Not only the key it might have named: every press reads every binding.
-    models[5] = {6, 56};
+    bind(6, {6, 56});
     EXPECT_DEATH(fakes.keyObserver->pressKey(65535), "Index out of range");
 }
 
 TEST_F(RemapperDeathTest, WellFormedBindingsAroundItDoNotSaveIt) {
-    models[0] = {1, 0, 12};
-    models[1] = {2, 0};
-    models[2] = {3, 0, 12};
+    bind(1, {1, 0, 12});
+    bind(2, {2, 0});
+    bind(3, {3, 0, 12});
     EXPECT_DEATH(fakes.keyObserver->pressKey(12), "Index out of range");
     // Without the short binding the same press taps both others.
-    models[1] = {};
+    bind(2, {});
     fakes.keyObserver->pressKey(12);
     EXPECT_EQ(fakes.keyPoster->posts(),
               (std::vector<std::string>{"89 down", "89 up", "86 down", "86 up"}));
 }
 
 TEST_F(RemapperDeathTest, ShortBindingIsHarmlessUntilAKeyIsPressed) {
-    models[3] = {4, 56};
+    bind(4, {4, 56});
     fakes.keyObserver->changeModifier(56);
     fakes.keyObserver->changeModifier(56);
     fakes.frontmostApplication->setBundleIdentifier("com.blizzard.WarcraftIII");
@@ -62,13 +69,13 @@ TEST_F(RemapperDeathTest, ShortBindingIsHarmlessUntilAKeyIsPressed) {
 }
 
 TEST_F(RemapperDeathTest, KeysInOwnWindowNeverReachTheShortBinding) {
-    models[0] = {1, 0};
+    bind(1, {1, 0});
     fakes.keyObserver->setOwnApplicationFrontmost(true);
     EXPECT_FALSE(fakes.keyObserver->pressKey(12));
 }
 
 TEST_F(RemapperDeathTest, ModifierKeysAloneNeverReachTheShortBinding) {
-    models[0] = {1, 56};
+    bind(1, {1, 56});
     for (const int modifier : {56, 60, 59, 58, 55, 57}) {
         EXPECT_TRUE(fakes.keyObserver->changeModifier(modifier));
     }
@@ -76,7 +83,7 @@ TEST_F(RemapperDeathTest, ModifierKeysAloneNeverReachTheShortBinding) {
 }
 
 TEST_F(RemapperDeathTest, UntrustedTheShortBindingIsNeverTested) {
-    models[0] = {1, 0};
+    bind(1, {1, 0});
     fakes.accessibilityTrust->setTrusted(false);
     EXPECT_FALSE(fakes.keyObserver->pressKey(12));
 }
@@ -90,16 +97,24 @@ protected:
         session.installObservers();
     }
 
+    void bind(int slot, const std::vector<std::int64_t>& values) {
+        bindings.of(slot) = bindingFromArray(values);
+        session.setBindings(bindings);
+    }
+    void setOptions(const InventoryOptions& options) {
+        bindings.options = options;
+        session.setBindings(bindings);
+    }
+
     Platform platform = makeFakePlatform();
     FakeParts fakes = fakeParts(platform);
-    InventoryRemapper::Models models;
-    InventoryOptions options;
-    RemapperSession session{models, options, platform};
+    InventoryBindings bindings;
+    RemapperSession session{platform};
 };
 
 TEST_F(RemapperOptionsDeathTest, OnlyWhileTheGameIsInFrontKeysInOtherProgramsDoNotEndIt) {
-    models[1] = {2, 0};
-    options.onlyWhileGameInFront = true;
+    bind(2, {2, 0});
+    setOptions({.onlyWhileGameInFront = true});
     fakes.frontmostWatcher->announce("notepad.exe");
     EXPECT_TRUE(fakes.keyObserver->pressKey(12));
     fakes.frontmostWatcher->announce("com.blizzard.WarcraftIII");
@@ -107,8 +122,8 @@ TEST_F(RemapperOptionsDeathTest, OnlyWhileTheGameIsInFrontKeysInOtherProgramsDoN
 }
 
 TEST_F(RemapperOptionsDeathTest, WhileChatPausesTheKeysTheyDoNotEndIt) {
-    models[1] = {2, 0};
-    options.pauseWhileTypingInChat = true;
+    bind(2, {2, 0});
+    setOptions({.pauseWhileTypingInChat = true});
     fakes.frontmostWatcher->announce("com.blizzard.WarcraftIII");
     session.remapper().chatOpen = true;
     EXPECT_TRUE(fakes.keyObserver->pressKey(12));

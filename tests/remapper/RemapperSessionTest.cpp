@@ -14,9 +14,10 @@ using Posts = std::vector<std::string>;
 TEST(RemapperSession, ObservesNothingUntilInstalled) {
     Platform platform = makeFakePlatform();
     const FakeParts fakes = fakeParts(platform);
-    InventoryRemapper::Models models;
-    models[0] = {1, 0, 12};
-    RemapperSession session(models, platform);
+    InventoryBindings bindings;
+    bindings.of(1) = SlotBinding{1, 0, 12};
+    RemapperSession session(platform);
+    session.setBindings(bindings);
     fakes.keyObserver->pressKey(12);
     fakes.keyObserver->changeModifier(56);
     EXPECT_TRUE(fakes.keyPoster->posts().empty());
@@ -27,9 +28,10 @@ TEST(RemapperSession, ObservesNothingUntilInstalled) {
 TEST(RemapperSession, InstallsOneKeyDownAndOneModifierMonitor) {
     Platform platform = makeFakePlatform();
     const FakeParts fakes = fakeParts(platform);
-    InventoryRemapper::Models models;
-    models[1] = {2, 56, 12};
-    RemapperSession session(models, platform);
+    InventoryBindings bindings;
+    bindings.of(2) = SlotBinding{2, 56, 12};
+    RemapperSession session(platform);
+    session.setBindings(bindings);
     session.installObservers();
     EXPECT_EQ(fakes.keyObserver->keyDownMonitorCount(), 1U);
     EXPECT_EQ(fakes.keyObserver->flagsChangedMonitorCount(), 1U);
@@ -43,8 +45,7 @@ TEST(RemapperSession, InstallsOneKeyDownAndOneModifierMonitor) {
 TEST(RemapperSession, TickAsksThePlatformForTheFrontmostApplication) {
     Platform platform = makeFakePlatform();
     const FakeParts fakes = fakeParts(platform);
-    InventoryRemapper::Models models;
-    RemapperSession session(models, platform);
+    RemapperSession session(platform);
     fakes.frontmostApplication->setBundleIdentifier("com.blizzard.WarcraftIII");
     EXPECT_FALSE(session.remapper().isWarRun);
     session.eventWithTimer();
@@ -52,14 +53,31 @@ TEST(RemapperSession, TickAsksThePlatformForTheFrontmostApplication) {
     EXPECT_EQ(fakes.frontmostApplication->queryCount(), 1U);
 }
 
-TEST(RemapperSession, ReadsTheOwnersBindingsAtEveryPress) {
+TEST(RemapperSession, NewBindingsTakeEffectAtTheNextPress) {
     Platform platform = makeFakePlatform();
     const FakeParts fakes = fakeParts(platform);
-    InventoryRemapper::Models models;
-    RemapperSession session(models, platform);
+    RemapperSession session(platform);
     session.installObservers();
     fakes.keyObserver->pressKey(12);
-    models[4] = {5, 0, 12};
+    InventoryBindings bindings;
+    bindings.of(5) = SlotBinding{5, 0, 12};
+    session.setBindings(bindings);
+    fakes.keyObserver->pressKey(12);
+    EXPECT_EQ(fakes.keyPoster->posts(), (Posts{"83 down", "83 up"}));
+}
+
+TEST(RemapperSession, KeepsACopyOfTheBindingsItWasHanded) {
+    Platform platform = makeFakePlatform();
+    const FakeParts fakes = fakeParts(platform);
+    RemapperSession session(platform);
+    session.installObservers();
+    InventoryBindings bindings;
+    bindings.of(5) = SlotBinding{5, 0, 12};
+    session.setBindings(bindings);
+    bindings.of(5).reset();
+    fakes.keyObserver->pressKey(12);
+    EXPECT_EQ(fakes.keyPoster->posts(), (Posts{"83 down", "83 up"}));
+    session.setBindings(bindings);
     fakes.keyObserver->pressKey(12);
     EXPECT_EQ(fakes.keyPoster->posts(), (Posts{"83 down", "83 up"}));
 }
@@ -67,9 +85,10 @@ TEST(RemapperSession, ReadsTheOwnersBindingsAtEveryPress) {
 TEST(RemapperSession, MonitorsFallSilentWhenTheSessionIsGone) {
     Platform platform = makeFakePlatform();
     const FakeParts fakes = fakeParts(platform);
-    InventoryRemapper::Models models;
-    models[0] = {1, 0, 12};
-    auto session = std::make_unique<RemapperSession>(models, platform);
+    InventoryBindings bindings;
+    bindings.of(1) = SlotBinding{1, 0, 12};
+    auto session = std::make_unique<RemapperSession>(platform);
+    session->setBindings(bindings);
     session->installObservers();
     session.reset();
     fakes.keyObserver->pressKey(12);
@@ -80,8 +99,7 @@ TEST(RemapperSession, MonitorsFallSilentWhenTheSessionIsGone) {
 TEST(RemapperSession, FollowsTheFrontmostWatcherFromTheStateItHasAtInstallation) {
     Platform platform = makeFakePlatform();
     const FakeParts fakes = fakeParts(platform);
-    InventoryRemapper::Models models;
-    RemapperSession session(models, platform);
+    RemapperSession session(platform);
     fakes.frontmostWatcher->announce("com.blizzard.WarcraftIII");
     EXPECT_FALSE(session.remapper().gameInFront) << "nothing is followed before installation";
     session.installObservers();
@@ -93,19 +111,20 @@ TEST(RemapperSession, FollowsTheFrontmostWatcherFromTheStateItHasAtInstallation)
     EXPECT_FALSE(session.remapper().isWarRun);
 }
 
-TEST(RemapperSession, ReadsTheOwnersOptionsAtEveryPress) {
+TEST(RemapperSession, NewOptionsTakeEffectAtTheNextPress) {
     Platform platform = makeFakePlatform();
     const FakeParts fakes = fakeParts(platform);
-    InventoryRemapper::Models models;
-    models[0] = {1, 0, 12};
-    InventoryOptions options;
-    RemapperSession session(models, options, platform);
+    InventoryBindings bindings;
+    bindings.of(1) = SlotBinding{1, 0, 12};
+    RemapperSession session(platform);
     session.installObservers();
     fakes.frontmostWatcher->announce("notepad.exe");
-    options.onlyWhileGameInFront = true;
+    bindings.options.onlyWhileGameInFront = true;
+    session.setBindings(bindings);
     fakes.keyObserver->pressKey(12);
     EXPECT_TRUE(fakes.keyPoster->posts().empty());
-    options.onlyWhileGameInFront = false;
+    bindings.options.onlyWhileGameInFront = false;
+    session.setBindings(bindings);
     fakes.keyObserver->pressKey(12);
     EXPECT_EQ(fakes.keyPoster->posts(), (Posts{"89 down", "89 up"}));
 }
@@ -113,16 +132,17 @@ TEST(RemapperSession, ReadsTheOwnersOptionsAtEveryPress) {
 TEST(RemapperSession, KeyPressTakesInWindowChangesOnlyWhileAnOptionIsOn) {
     Platform platform = makeFakePlatform();
     const FakeParts fakes = fakeParts(platform);
-    InventoryRemapper::Models models;
-    InventoryOptions options;
-    RemapperSession session(models, options, platform);
+    RemapperSession session(platform);
     session.installObservers();
     fakes.keyObserver->pressKey(12);
     EXPECT_EQ(fakes.frontmostWatcher->takeInCount(), 0U) << "both options off: nothing changes";
-    options.onlyWhileGameInFront = true;
+    InventoryBindings bindings;
+    bindings.options.onlyWhileGameInFront = true;
+    session.setBindings(bindings);
     fakes.keyObserver->pressKey(12);
     EXPECT_EQ(fakes.frontmostWatcher->takeInCount(), 1U);
-    options = {false, true};
+    bindings.options = {false, true};
+    session.setBindings(bindings);
     fakes.keyObserver->pressKey(12);
     EXPECT_EQ(fakes.frontmostWatcher->takeInCount(), 2U);
     // Modifier changes never ask.
@@ -133,8 +153,7 @@ TEST(RemapperSession, KeyPressTakesInWindowChangesOnlyWhileAnOptionIsOn) {
 TEST(RemapperSession, WindowChangesFallSilentWhenTheSessionIsGone) {
     Platform platform = makeFakePlatform();
     const FakeParts fakes = fakeParts(platform);
-    InventoryRemapper::Models models;
-    auto session = std::make_unique<RemapperSession>(models, platform);
+    auto session = std::make_unique<RemapperSession>(platform);
     session->installObservers();
     session.reset();
     fakes.frontmostWatcher->announce("com.blizzard.WarcraftIII");
@@ -145,16 +164,14 @@ TEST(RemapperSessionDeathTest, PlatformWithoutAPosterIsAProgrammingError) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     Platform platform = makeFakePlatform();
     platform.keyPoster.reset();
-    InventoryRemapper::Models models;
-    EXPECT_DEATH(RemapperSession(models, platform), "no key poster");
+    EXPECT_DEATH(RemapperSession{platform}, "no key poster");
 }
 
 TEST(RemapperSessionDeathTest, PlatformWithoutAFrontmostWatcherIsAProgrammingError) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     Platform platform = makeFakePlatform();
     platform.frontmostWatcher.reset();
-    InventoryRemapper::Models models;
-    EXPECT_DEATH(RemapperSession(models, platform), "no frontmost watcher");
+    EXPECT_DEATH(RemapperSession{platform}, "no frontmost watcher");
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "ScenarioRunner.h"
 
+#include "core/bindings/BindingArray.h"
 #include "core/remapper/RemapperSession.h"
 #include "platform/fake/FakePlatform.h"
 
@@ -28,9 +29,8 @@ std::vector<std::string> runScenario(const Scenario& scenario) {
     using Kind = ScenarioStep::Kind;
     Platform platform = makeFakePlatform();
     const FakeParts fakes = fakeParts(platform);
-    InventoryRemapper::Models models;
-    InventoryOptions options;
-    RemapperSession session(models, options, platform);
+    InventoryBindings bindings;
+    RemapperSession session(platform);
     session.installObservers();
 
     std::vector<std::string> transcript;
@@ -38,7 +38,9 @@ std::vector<std::string> runScenario(const Scenario& scenario) {
     for (const ScenarioStep& step : scenario.steps) {
         switch (step.kind) {
         case Kind::Model:
-            models.at(static_cast<std::size_t>(step.number - 1)) = step.values;
+            // A model line is the stored array form, read as the store reads it.
+            bindings.of(static_cast<int>(step.number)) = bindingFromArray(step.values);
+            session.setBindings(bindings);
             break;
         case Kind::Down:
             fakes.keyObserver->pressKey(static_cast<int>(step.number));
@@ -56,8 +58,10 @@ std::vector<std::string> runScenario(const Scenario& scenario) {
             fakes.frontmostWatcher->announceUnread(identifierOf(step));
             break;
         case Kind::Option:
-            (step.identifier == "game-in-front" ? options.onlyWhileGameInFront
-                                                : options.pauseWhileTypingInChat) = step.on;
+            (step.identifier == "game-in-front" ? bindings.options.onlyWhileGameInFront
+                                                : bindings.options.pauseWhileTypingInChat) =
+                step.on;
+            session.setBindings(bindings);
             break;
         case Kind::Tick:
             session.eventWithTimer();

@@ -27,9 +27,10 @@ private:
 
 TEST(TapListener, ToldOfATapAfterItsKeypadKeyWentOut) {
     RecordingKeyPoster poster;
-    InventoryRemapper::Models models;
-    models[2] = {3, 0, 12};
-    InventoryRemapper remapper(models, poster);
+    InventoryBindings models;
+    models.slotBindings[2] = SlotBinding{3, 0, 12};
+    InventoryRemapper remapper(poster);
+    remapper.setBindings(models);
     TapLog log(poster);
     remapper.setTapListener(&log);
     remapper.keyDown(12);
@@ -39,9 +40,10 @@ TEST(TapListener, ToldOfATapAfterItsKeypadKeyWentOut) {
 
 TEST(TapListener, ShiftBindingIsReportedWithItsModifier) {
     RecordingKeyPoster poster;
-    InventoryRemapper::Models models;
-    models[0] = {1, 56, 6};
-    InventoryRemapper remapper(models, poster);
+    InventoryBindings models;
+    models.slotBindings[0] = SlotBinding{1, 56, 6};
+    InventoryRemapper remapper(poster);
+    remapper.setBindings(models);
     TapLog log(poster);
     remapper.setTapListener(&log);
     remapper.keyDown(6); // Shift not down: no tap
@@ -53,10 +55,11 @@ TEST(TapListener, ShiftBindingIsReportedWithItsModifier) {
 
 TEST(TapListener, OnePressTappingTwoSlotsIsTwoReportsInSlotOrder) {
     RecordingKeyPoster poster;
-    InventoryRemapper::Models models;
-    models[1] = {2, 0, 0};
-    models[4] = {5, 0, 0};
-    InventoryRemapper remapper(models, poster);
+    InventoryBindings models;
+    models.slotBindings[1] = SlotBinding{2, 0, 0};
+    models.slotBindings[4] = SlotBinding{5, 0, 0};
+    InventoryRemapper remapper(poster);
+    remapper.setBindings(models);
     TapLog log(poster);
     remapper.setTapListener(&log);
     remapper.keyDown(0);
@@ -66,10 +69,12 @@ TEST(TapListener, OnePressTappingTwoSlotsIsTwoReportsInSlotOrder) {
 
 TEST(TapListener, NothingIsReportedWithoutATap) {
     RecordingKeyPoster poster;
-    InventoryRemapper::Models models;
-    models[0] = {1, 0, 12};
-    models[1] = {9, 0, 13}; // a slot the game does not have: nothing is posted
-    InventoryRemapper remapper(models, poster);
+    InventoryBindings models;
+    models.slotBindings[0] = SlotBinding{1, 0, 12};
+    models.slotBindings[1] =
+        SlotBinding{9, 0, 13}; // a slot the game does not have: nothing is posted
+    InventoryRemapper remapper(poster);
+    remapper.setBindings(models);
     TapLog log(poster);
     remapper.setTapListener(&log);
     remapper.keyDown(14);
@@ -80,9 +85,10 @@ TEST(TapListener, NothingIsReportedWithoutATap) {
 
 TEST(TapListener, UnsetListenerHearsNoMore) {
     RecordingKeyPoster poster;
-    InventoryRemapper::Models models;
-    models[0] = {1, 0, 12};
-    InventoryRemapper remapper(models, poster);
+    InventoryBindings models;
+    models.slotBindings[0] = SlotBinding{1, 0, 12};
+    InventoryRemapper remapper(poster);
+    remapper.setBindings(models);
     TapLog log(poster);
     remapper.setTapListener(&log);
     remapper.keyDown(12);

@@ -96,19 +96,35 @@ TEST(StoredTypes, AStoredListIsRecognisedOnlyWhenItIsExactlyTheList) {
     EXPECT_FALSE(isStoredAbilityList(hashed, list));
 }
 
+using StoredBinding = std::optional<SlotBinding>;
+
 TEST(StoredTypes, InventoryModelIsAnyArrayOfIntegers) {
-    const InventoryModel model{3, 0, 12};
-    auto read = inventoryModelFromStored(inventoryModelToStored(model));
-    ASSERT_TRUE(std::holds_alternative<InventoryModel>(read));
-    EXPECT_EQ(std::get<InventoryModel>(read), model);
-    // Length and range are not checked here.
+    const SlotBinding binding{3, 0, 12};
+    const QVariant stored = inventoryModelToStored(binding);
+    EXPECT_EQ(stored, (QVariantList{integer(3), integer(0), integer(12)}));
+    auto read = inventoryModelFromStored(stored);
+    ASSERT_TRUE(std::holds_alternative<StoredBinding>(read));
+    EXPECT_EQ(std::get<StoredBinding>(read), binding);
+    // Length and range are not checked here: a longer array binds by its first three values.
     auto odd = inventoryModelFromStored(
         QVariantList{integer(5), integer(56), integer(999), integer(-7), 4});
-    ASSERT_TRUE(std::holds_alternative<InventoryModel>(odd));
-    EXPECT_EQ(std::get<InventoryModel>(odd), (InventoryModel{5, 56, 999, -7, 4}));
+    ASSERT_TRUE(std::holds_alternative<StoredBinding>(odd));
+    EXPECT_EQ(std::get<StoredBinding>(odd), (SlotBinding{5, 56, 999}));
     auto empty = inventoryModelFromStored(QVariantList{});
-    ASSERT_TRUE(std::holds_alternative<InventoryModel>(empty));
-    EXPECT_TRUE(std::get<InventoryModel>(empty).empty());
+    ASSERT_TRUE(std::holds_alternative<StoredBinding>(empty));
+    EXPECT_FALSE(std::get<StoredBinding>(empty).has_value());
+}
+
+TEST(StoredTypes, ABindingCutShortKeepsWhatItHasAndIsStoredAsShortAgain) {
+    auto read = inventoryModelFromStored(QVariantList{integer(2), integer(56)});
+    ASSERT_TRUE(std::holds_alternative<StoredBinding>(read));
+    const StoredBinding binding = std::get<StoredBinding>(read);
+    ASSERT_TRUE(binding.has_value());
+    EXPECT_TRUE(binding->isCutShort());
+    EXPECT_EQ(binding->held, 2u);
+    EXPECT_EQ(binding->slot, 2);
+    EXPECT_EQ(binding->modifier, 56);
+    EXPECT_EQ(inventoryModelToStored(*binding), (QVariantList{integer(2), integer(56)}));
 }
 
 TEST(StoredTypes, InventoryModelNamesWhatWasFoundInstead) {

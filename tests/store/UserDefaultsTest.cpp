@@ -123,16 +123,18 @@ TEST(UserDefaults, SomeInventorySlotsStoredOthersAbsent) {
     {
         auto settings = openUserDefaults();
         UserDefaults defaults(*settings);
+        // An empty array, as a store written elsewhere may hold: the key is there, no binding.
+        settings->setValue(QStringLiteral("inventoryModel6"), QVariantList{});
         defaults.setInventoryModel(1, {1, 56, 18});
         defaults.setInventoryModel(4, {4, 0, -1});
-        defaults.setInventoryModel(6, {});
     }
+    EXPECT_TRUE(folder.readStore().contains("<key>inventoryModel6</key>"));
     EXPECT_TRUE(folder.readStore().contains("<key>inventoryModel4</key>"));
     auto settings = openUserDefaults();
     UserDefaults defaults(*settings);
-    EXPECT_EQ(defaults.inventoryModel(1), (InventoryModel{1, 56, 18}));
-    EXPECT_EQ(defaults.inventoryModel(4), (InventoryModel{4, 0, -1}));
-    EXPECT_EQ(defaults.inventoryModel(6), InventoryModel{});
+    EXPECT_EQ(defaults.inventoryModel(1), (SlotBinding{1, 56, 18}));
+    EXPECT_EQ(defaults.inventoryModel(4), (SlotBinding{4, 0, -1}));
+    EXPECT_FALSE(defaults.inventoryModel(6).has_value());
     EXPECT_FALSE(defaults.inventoryModel(2).has_value());
     EXPECT_FALSE(defaults.inventoryModel(3).has_value());
     EXPECT_FALSE(defaults.inventoryModel(5).has_value());
@@ -154,7 +156,7 @@ TEST(UserDefaults, RemovingASlotKeepsTheOthers) {
     auto settings = openUserDefaults();
     UserDefaults defaults(*settings);
     EXPECT_FALSE(defaults.inventoryModel(2).has_value());
-    EXPECT_EQ(defaults.inventoryModel(4), (InventoryModel{4, 56, 13}));
+    EXPECT_EQ(defaults.inventoryModel(4), (SlotBinding{4, 56, 13}));
     EXPECT_EQ(defaults.mainDic(), std::vector<AbilityRecord>{kAttack});
 }
 
@@ -205,7 +207,7 @@ TEST(UserDefaults, StringDigitsAreNotAnInventoryModel) {
     folder.writeStore(plistXml("<dict><key>inventoryModel3</key><array><integer>3</integer>"
                                "<integer>0</integer><integer>12</integer></array></dict>"));
     auto settings = openUserDefaults();
-    EXPECT_EQ(UserDefaults(*settings).inventoryModel(3), (InventoryModel{3, 0, 12}));
+    EXPECT_EQ(UserDefaults(*settings).inventoryModel(3), (SlotBinding{3, 0, 12}));
     folder.writeStore(plistXml("<dict><key>inventoryModel3</key><array><string>3</string>"
                                "<string>0</string><string>12</string></array></dict>"));
     auto reread = openUserDefaults();
@@ -303,7 +305,7 @@ TEST(UserDefaults, BinaryPropertyListIsReadAndWrittenBackAsXml) {
     EXPECT_EQ(GetCapturedStderr(), "");
     EXPECT_TRUE(folder.setAsideFiles().isEmpty());
     UserDefaults defaults(*settings);
-    EXPECT_EQ(defaults.inventoryModel(5), (InventoryModel{5, 56, 14}));
+    EXPECT_EQ(defaults.inventoryModel(5), (SlotBinding{5, 56, 14}));
     defaults.setInventoryModel(1, {1, 0, 12});
     const QByteArray file = folder.readStore();
     EXPECT_TRUE(file.contains("<key>inventoryModel5</key>")) << file.toStdString();

@@ -17,6 +17,7 @@
 #include <linux/input-event-codes.h>
 
 #include <algorithm>
+#include <mutex>
 #include <poll.h>
 #include <string>
 #include <vector>
@@ -82,6 +83,12 @@ protected:
         return window;
     }
 
+    // What the key handlers wrote, read under the lock they run under (on the key thread).
+    template <typename Read> auto locked(Read read) {
+        const std::lock_guard lock(*platform->keyPath);
+        return read();
+    }
+
     XvfbSession server{false};
     XTestDriver driver{server.display()};
     KeymapProbe probe{server.display()};
@@ -121,8 +128,9 @@ TEST_F(X11BackendTest, ObserverReportsKeyDownsAndModifierChangesInMacCodes) {
     const std::vector<std::string> expected = {"down 12",  "flags 56", "down 0",   "flags 56",
                                                "flags 62", "flags 62", "down 122", "flags 57",
                                                "flags 57", "down 49"};
-    EXPECT_TRUE(processUntil([&] { return seen.size() >= expected.size(); }, 5s));
-    EXPECT_EQ(seen, expected);
+    EXPECT_TRUE(
+        processUntil([&] { return locked([&] { return seen.size(); }) >= expected.size(); }, 5s));
+    EXPECT_EQ(locked([&] { return seen; }), expected);
 }
 
 TEST_F(X11BackendTest, PostedKeypadTapsAreNotObserved) {
@@ -130,10 +138,11 @@ TEST_F(X11BackendTest, PostedKeypadTapsAreNotObserved) {
     // makes it write at once, as the game would.
     LineProcess log;
     startKeyLog(log, "keylog");
-    InventoryRemapper::Models models;
-    models[0] = {1, 0, 12};
+    InventoryBindings bindings;
+    bindings.of(1) = SlotBinding{1, 0, 12};
     CountingPoster poster(*platform->keyPoster);
-    InventoryRemapper remapper(models, poster);
+    InventoryRemapper remapper(poster);
+    remapper.setBindings(bindings);
     std::vector<int> downs;
     std::vector<int> flags;
     platform->keyObserver->addKeyDownMonitor([&](int code) {
@@ -143,15 +152,17 @@ TEST_F(X11BackendTest, PostedKeypadTapsAreNotObserved) {
     platform->keyObserver->addFlagsChangedMonitor([&](int code) { flags.push_back(code); });
 
     driver.tap(x(KEY_Q));
-    ASSERT_TRUE(processUntil([&] { return poster.posted.size() >= 2; }, 5s));
+    ASSERT_TRUE(
+        processUntil([&] { return locked([&] { return poster.posted.size(); }) >= 2; }, 5s));
     const unsigned own = probe.recordedKeycodes().at(0);
     ASSERT_GE(waitForKey(log, false, own, 0), 0) << log.transcript().toStdString();
     // The tap was recorded before this marker; once the marker is seen, so would the tap be.
     driver.tap(x(KEY_W));
-    ASSERT_TRUE(processUntil([&] { return downs.size() >= 2; }, 5s));
-    EXPECT_EQ(downs, (std::vector<int>{12, 13}));
-    EXPECT_TRUE(flags.empty());
-    EXPECT_EQ(poster.posted, (std::vector<std::string>{"down 89", "up 89"}));
+    ASSERT_TRUE(processUntil([&] { return locked([&] { return downs.size(); }) >= 2; }, 5s));
+    EXPECT_EQ(locked([&] { return downs; }), (std::vector<int>{12, 13}));
+    EXPECT_TRUE(locked([&] { return flags.empty(); }));
+    EXPECT_EQ(locked([&] { return poster.posted; }),
+              (std::vector<std::string>{"down 89", "up 89"}));
 }
 
 TEST_F(X11BackendTest, SlotTapsGoOutOnKeycodesOfOurOwnWhateverNumLockAndShiftAndLeaveNumLockAlone) {

@@ -24,10 +24,14 @@ bool oneUnitHasBoth(const std::vector<AbilityRecord>& list, std::size_t a, std::
 
 } // namespace
 
-std::string keyInForce(const AbilityRecord& record) {
+bool keyIsChosen(const AbilityRecord& record) {
     const std::string* chosen = field(record, new_hotkey);
-    if (chosen != nullptr && !chosen->empty()) {
-        return *chosen;
+    return chosen != nullptr && !chosen->empty();
+}
+
+std::string keyInForce(const AbilityRecord& record) {
+    if (keyIsChosen(record)) {
+        return *field(record, new_hotkey);
     }
     const std::string* fallback = field(record, def_hotkey);
     return fallback != nullptr ? *fallback : std::string();
@@ -46,8 +50,11 @@ std::vector<Clash> findClashes(const std::vector<AbilityRecord>& list) {
     for (const auto& [key, positions] : byKey) {
         for (std::size_t a = 0; a < positions.size(); ++a) {
             for (std::size_t b = a + 1; b < positions.size(); ++b) {
-                if (oneUnitHasBoth(list, positions[a], positions[b])) {
-                    clashes.push_back({positions[a], positions[b]});
+                const std::size_t first = positions[a];
+                const std::size_t second = positions[b];
+                if ((keyIsChosen(list[first]) || keyIsChosen(list[second])) &&
+                    oneUnitHasBoth(list, first, second)) {
+                    clashes.push_back({first, second});
                 }
             }
         }

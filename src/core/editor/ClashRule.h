@@ -25,11 +25,17 @@ struct Clash {
     bool operator==(const Clash&) const = default;
 };
 
+// Whether the player chose the ability's key (by hand, by the grid layout or by an import), as
+// opposed to the game's default key being in force.
+bool keyIsChosen(const AbilityRecord& record);
+
 // Every clash of the list, ordered by `first`, then `second`. Two abilities clash when they use
-// the same key and one unit has both: they belong to the same owner ("name parent"), or one is a
-// general command and the other belongs to an owner or is a general command too. Abilities
-// without an owner past the general commands (Repair) clash with nothing. Three abilities on one
-// key are three clashes.
+// the same key, one unit has both, and the player chose at least one of the two keys: they
+// belong to the same owner ("name parent"), or one is a general command and the other belongs to
+// an owner or is a general command too. The game's own keys never clash with each other: the
+// game ships them that way (Attack Ground and the Shaman's Purge share G), and a warning the
+// player did nothing to cause would only alarm him. Abilities without an owner past the general
+// commands (Repair) clash with nothing. Three abilities on one key are three clashes.
 std::vector<Clash> findClashes(const std::vector<AbilityRecord>& list);
 
 // For every list position, the positions it clashes with, in list order.

@@ -5,23 +5,23 @@
 
 namespace tarnic {
 
-InventoryDisplay displayOf(const InventoryModel& model) {
-    return displayOf(model, KeyNames());
+InventoryDisplay displayOf(const std::optional<SlotBinding>& binding) {
+    return displayOf(binding, KeyNames());
 }
 
-InventoryDisplay displayOf(const InventoryModel& model, const KeyNames& names) {
+InventoryDisplay displayOf(const std::optional<SlotBinding>& binding, const KeyNames& names) {
     InventoryDisplay shown{select, false};
-    if (model.empty()) {
+    if (!binding) {
         return shown;
     }
-    if (model.size() < 3) {
+    if (binding->isCutShort()) {
         fatalError(kIndexOutOfRange,
-                   "inventory binding has " + std::to_string(model.size()) + " elements, needs 3");
+                   "inventory binding has " + std::to_string(binding->held) + " elements, needs 3");
     }
-    if (std::optional<std::string> name = names.nameOf(model[2])) {
+    if (std::optional<std::string> name = names.nameOf(binding->key)) {
         shown.title = std::move(*name);
     }
-    shown.shift = model[1] != kNoModifier;
+    shown.shift = binding->modifier != kNoModifier;
     return shown;
 }
 
@@ -35,19 +35,18 @@ std::int64_t triggerCodeOf(std::string_view title, const KeyNames& names) {
     return code ? *code : kNoKey;
 }
 
-std::optional<InventoryModel> bindingFrom(std::int64_t editing, std::string_view title,
-                                          bool shift) {
+std::optional<SlotBinding> bindingFrom(std::int64_t editing, std::string_view title, bool shift) {
     return bindingFrom(editing, title, shift, KeyNames());
 }
 
-std::optional<InventoryModel> bindingFrom(std::int64_t editing, std::string_view title, bool shift,
-                                          const KeyNames& names) {
+std::optional<SlotBinding> bindingFrom(std::int64_t editing, std::string_view title, bool shift,
+                                       const KeyNames& names) {
     const std::int64_t key = triggerCodeOf(title, names);
     const std::int64_t modifier = shift ? kShiftModifier : kNoModifier;
     if (editing < 1 || editing > 6) {
         return std::nullopt;
     }
-    return InventoryModel{editing, modifier, key};
+    return SlotBinding{editing, modifier, key};
 }
 
 namespace {
@@ -59,29 +58,30 @@ bool isKeyCode(std::int64_t code) {
     return code >= 0 && code <= kLargestKeyCode;
 }
 
-// Whether a whole model can never tap: a slot the game does not have (inventoryPress posts
+// Whether a whole binding can never tap: a slot the game does not have (inventoryPress posts
 // nothing for it), or a trigger or modifier code that no key press can ever equal. "Select"
 // (kNoKey) is the player's own choice of no key, not damage.
-bool neverTaps(const InventoryModel& model) {
-    const bool slotExists = model[0] >= 1 && model[0] <= 6;
-    return !slotExists || !(model[2] == kNoKey || isKeyCode(model[2])) || !isKeyCode(model[1]);
+bool neverTaps(const SlotBinding& binding) {
+    const bool slotExists = binding.slot >= 1 && binding.slot <= 6;
+    return !slotExists || !(binding.key == kNoKey || isKeyCode(binding.key)) ||
+           !isKeyCode(binding.modifier);
 }
 
 } // namespace
 
-std::string slotTitle(int slot, const InventoryModel& model) {
-    return slotTitle(slot, model, KeyNames());
+std::string slotTitle(int slot, const std::optional<SlotBinding>& binding) {
+    return slotTitle(slot, binding, KeyNames());
 }
 
-std::string slotTitle(int slot, const InventoryModel& model, const KeyNames& names) {
+std::string slotTitle(int slot, const std::optional<SlotBinding>& binding, const KeyNames& names) {
     std::string title = "Slot " + std::to_string(slot) + "  ";
-    if (model.empty()) {
+    if (!binding) {
         return title + "none";
     }
-    if (model.size() < 3 || neverTaps(model)) {
+    if (binding->isCutShort() || neverTaps(*binding)) {
         return title + "(damaged)";
     }
-    const InventoryDisplay shown = displayOf(model, names);
+    const InventoryDisplay shown = displayOf(binding, names);
     if (shown.shift) {
         title += "Shift+";
     }

@@ -5,6 +5,7 @@
 #include "core/platform/FrontmostWatcher.h"
 #include "core/platform/KeyLabels.h"
 #include "core/platform/KeyObserver.h"
+#include "core/platform/KeyPathLock.h"
 #include "core/platform/KeyPoster.h"
 
 #include <memory>
@@ -24,6 +25,9 @@ struct Platform {
     // What the player's keyboard layout prints on each key, for naming keys in the window. May
     // be null: the keys keep their US names.
     std::unique_ptr<KeyLabels> keyLabels;
+    // Held while a key is handled; the key observer may call its handlers on a thread of its
+    // own, under this lock.
+    std::shared_ptr<KeyPathLock> keyPath = makeKeyPathLock();
 };
 
 } // namespace tarnic

@@ -1,6 +1,5 @@
 #include "core/remapper/InventoryRemapper.h"
 
-#include "core/fatal/Fatal.h"
 #include "core/remapper/SlotKeys.h"
 #include "core/vocabulary/KeyCodes.h"
 
@@ -8,41 +7,31 @@
 
 namespace tarnic {
 
-namespace {
-// A stored binding is trusted; one that was cut short outside the program cannot be read.
-std::int64_t element(const InventoryModel& model, std::size_t index) {
-    if (index >= model.size()) {
-        fatalError(kIndexOutOfRange, "inventory binding has " + std::to_string(model.size()) +
-                                         " elements, element " + std::to_string(index) +
-                                         " was read");
-    }
-    return model[index];
-}
-} // namespace
+InventoryRemapper::InventoryRemapper(KeyPoster& poster) : poster_(poster) {}
 
-InventoryRemapper::InventoryRemapper(const Models& inventoryModels, KeyPoster& poster,
-                                     const InventoryOptions& options)
-    : inventoryModels_(inventoryModels), poster_(poster), options_(options) {}
+void InventoryRemapper::setBindings(const InventoryBindings& bindings) {
+    bindings_ = bindings;
+}
 
 void InventoryRemapper::keyDown(int keyCode) {
     if (tapsAllowed()) {
         // Every binding is tested, so one press may tap several slots, in slot order.
-        for (const InventoryModel& model : inventoryModels_) {
-            action(model, keyCode);
+        for (const std::optional<SlotBinding>& binding : bindings_.slotBindings) {
+            action(binding, keyCode);
         }
     }
     followChatLine(keyCode);
 }
 
 bool InventoryRemapper::tapsAllowed() const {
-    if (options_.onlyWhileGameInFront && !gameInFront) {
+    if (bindings_.options.onlyWhileGameInFront && !gameInFront) {
         return false;
     }
-    return !(options_.pauseWhileTypingInChat && chatOpen);
+    return !(bindings_.options.pauseWhileTypingInChat && chatOpen);
 }
 
 bool InventoryRemapper::needsFrontmostAtKeyPress() const {
-    return options_.onlyWhileGameInFront || options_.pauseWhileTypingInChat;
+    return bindings_.options.onlyWhileGameInFront || bindings_.options.pauseWhileTypingInChat;
 }
 
 void InventoryRemapper::followChatLine(int keyCode) {
@@ -74,27 +63,27 @@ void InventoryRemapper::flagsChanged(int keyCode) {
     isFlag = !isFlag;
 }
 
-void InventoryRemapper::action(const InventoryModel& model, int keyPrss) {
-    if (model.empty()) {
+void InventoryRemapper::action(const std::optional<SlotBinding>& binding, int keyPrss) {
+    if (!binding) {
         return;
     }
     // With a modifier: the last modifier event must have been that very key (so the right
     // Shift, 60, never stands for a left-Shift binding, 56).
-    if (isFlag && flagHold == element(model, 1) && keyPrss == element(model, 2)) {
-        inventoryPress(element(model, 0));
-        tapped(model);
+    if (isFlag && flagHold == modifierOf(*binding) && keyPrss == keyOf(*binding)) {
+        inventoryPress(binding->slot);
+        tapped(*binding);
     }
     // Without a modifier: fires on its key whatever is held. Made independently of the first.
-    if (keyPrss == element(model, 2) && element(model, 1) == 0) {
-        inventoryPress(element(model, 0));
-        tapped(model);
+    if (keyPrss == keyOf(*binding) && modifierOf(*binding) == 0) {
+        inventoryPress(binding->slot);
+        tapped(*binding);
     }
 }
 
-void InventoryRemapper::tapped(const InventoryModel& model) {
+void InventoryRemapper::tapped(const SlotBinding& binding) {
     // Told after the tap, and only of a slot that was tapped: reporting adds nothing before it.
-    if (tapListener_ != nullptr && keypadKeyOfSlot(model[0])) {
-        tapListener_->slotTapped({model[0], model[1], model[2]});
+    if (tapListener_ != nullptr && keypadKeyOfSlot(binding.slot)) {
+        tapListener_->slotTapped({binding.slot, modifierOf(binding), keyOf(binding)});
     }
 }
 

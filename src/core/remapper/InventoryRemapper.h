@@ -1,33 +1,15 @@
 #pragma once
 
+#include "core/bindings/InventoryBindings.h"
 #include "core/platform/FrontmostApplication.h"
 #include "core/platform/KeyPoster.h"
 #include "core/remapper/TapListener.h"
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace tarnic {
-
-// An inventory binding: empty (slot unbound) or [slot 1..6, modifier code (56 Shift, 0 none),
-// trigger key code (-1 none)].
-using InventoryModel = std::vector<std::int64_t>;
-
-// The player's two options for the inventory keys. Both start off, and with both off a bound key
-// taps whatever application is in front.
-struct InventoryOptions {
-    // A bound key taps only while a window of the game is the frontmost one at the moment of
-    // the key press.
-    bool onlyWhileGameInFront = false;
-    // No bound key taps while the game's chat line is open (see InventoryRemapper::chatOpen).
-    bool pauseWhileTypingInChat = false;
-};
-
-// Both options off: what a remapper without options of its own reads.
-inline constexpr InventoryOptions kInventoryOptionsOff{};
 
 // The keys that open, send and close the game's chat line.
 inline constexpr int kReturnKeyCode = 36;
@@ -39,13 +21,11 @@ inline constexpr int kEscapeKeyCode = 53;
 // poster types for it.
 class InventoryRemapper {
 public:
-    using Models = std::array<InventoryModel, 6>;
+    // No slot is bound and both options are off until setBindings.
+    explicit InventoryRemapper(KeyPoster& poster);
 
-    // `inventoryModels` are inventoryModel1 .. inventoryModel6, and `options` the player's
-    // options, both owned by the editor's controller and read afresh on every key press, so an
-    // edit takes effect on the next press.
-    InventoryRemapper(const Models& inventoryModels, KeyPoster& poster,
-                      const InventoryOptions& options = kInventoryOptionsOff);
+    // Takes a copy of the bindings and options, used from the next key press on.
+    void setBindings(const InventoryBindings& bindings);
 
     // Key code of the most recent modifier change, and a parity bit flipped by every change.
     std::int64_t flagHold = -1;
@@ -75,7 +55,8 @@ public:
     bool needsFrontmostAtKeyPress() const;
     // Whether, with the options as they are, a bound key may tap now.
     bool tapsAllowed() const;
-    void action(const InventoryModel& model, int keyPrss);
+    // Taps the binding's slot when the key press stands for it; an unbound slot never taps.
+    void action(const std::optional<SlotBinding>& binding, int keyPrss);
     void eventWithTimer(const FrontmostApplication& frontmost);
 
     // Any slot other than 1 to 6 posts nothing. The slot is the stored value itself, never
@@ -89,13 +70,12 @@ public:
     void setTapListener(TapListener* listener) { tapListener_ = listener; }
 
 private:
-    void tapped(const InventoryModel& model);
+    void tapped(const SlotBinding& binding);
 
     void followChatLine(int keyCode);
 
-    const Models& inventoryModels_;
+    InventoryBindings bindings_;
     KeyPoster& poster_;
-    const InventoryOptions& options_;
     TapListener* tapListener_ = nullptr;
 };
 

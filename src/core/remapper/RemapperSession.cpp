@@ -2,11 +2,14 @@
 
 #include "core/fatal/Fatal.h"
 
+#include <chrono>
+#include <mutex>
+
 namespace tarnic {
 
 namespace {
 // A platform is built whole at start-up; a missing piece is a programming error.
-template <typename T> T& required(const std::unique_ptr<T>& part, const char* what) {
+template <typename Pointer> auto& required(const Pointer& part, const char* what) {
     if (!part) {
         fatalError(kNilUnwrap, what);
     }
@@ -14,22 +17,22 @@ template <typename T> T& required(const std::unique_ptr<T>& part, const char* wh
 }
 } // namespace
 
-RemapperSession::RemapperSession(const InventoryRemapper::Models& inventoryModels,
-                                 Platform& platform)
-    : RemapperSession(inventoryModels, kInventoryOptionsOff, platform) {}
-
-RemapperSession::RemapperSession(const InventoryRemapper::Models& inventoryModels,
-                                 const InventoryOptions& options, Platform& platform)
-    : platform_(platform),
-      remapper_(std::make_shared<InventoryRemapper>(
-          inventoryModels, required(platform.keyPoster, "the platform has no key poster"),
-          options)) {
+RemapperSession::RemapperSession(Platform& platform)
+    : platform_(platform), remapper_(std::make_shared<InventoryRemapper>(
+                               required(platform.keyPoster, "the platform has no key poster"))) {
     required(platform.keyObserver, "the platform has no key observer");
+    required(platform.keyPath, "the platform has no key-path lock");
     required(platform.frontmostApplication, "the platform has no frontmost application");
     required(platform.frontmostWatcher, "the platform has no frontmost watcher");
 }
 
+RemapperSession::~RemapperSession() {
+    const std::lock_guard lock(*platform_.keyPath);
+    remapper_.reset();
+}
+
 void RemapperSession::installObservers() {
+    const std::lock_guard lock(*platform_.keyPath);
     const std::weak_ptr<InventoryRemapper> remapper = remapper_;
     FrontmostWatcher* watcher = platform_.frontmostWatcher.get();
     platform_.keyObserver->addKeyDownMonitor([remapper, watcher](int keyCode) {
@@ -53,7 +56,19 @@ void RemapperSession::installObservers() {
     remapper_->frontmostChanged(watcher->frontmostIdentifier());
 }
 
+void RemapperSession::setBindings(const InventoryBindings& bindings) {
+    // The key thread reads them at every key.
+    const std::lock_guard lock(*platform_.keyPath);
+    remapper_->setBindings(bindings);
+}
+
 void RemapperSession::eventWithTimer() {
+    // A key holds the lock for microseconds. Much longer, and the key thread is waiting for the
+    // main thread itself (to show a fatal error): this tick is skipped, the next comes soon.
+    const std::unique_lock lock(*platform_.keyPath, std::chrono::milliseconds(200));
+    if (!lock.owns_lock()) {
+        return;
+    }
     remapper_->eventWithTimer(*platform_.frontmostApplication);
 }
 

@@ -10,16 +10,16 @@ namespace tarnic {
 // Connects the remapper to a platform: the observers feed its decisions, the platform's poster
 // types its taps, the game-detection tick asks the platform which application is in front, and
 // the frontmost watcher tells it of every change of the window in front.
-// The owner (the main window's controller) keeps the session, the bindings, the options and the
-// platform for the life of the process.
+// The owner (Application) keeps the session and the platform for the life of the process, and
+// hands the session a copy of the bindings whenever they change.
 class RemapperSession {
 public:
-    // Reads `inventoryModels` and `options` afresh on every key press. The platform must outlive
-    // the session.
-    RemapperSession(const InventoryRemapper::Models& inventoryModels, Platform& platform);
-    RemapperSession(const InventoryRemapper::Models& inventoryModels,
-                    const InventoryOptions& options, Platform& platform);
+    // No slot is bound and both options are off until setBindings. The platform must outlive the
+    // session.
+    explicit RemapperSession(Platform& platform);
 
+    // Waits for a key being handled on the key thread; the monitors fall silent after.
+    ~RemapperSession();
     RemapperSession(const RemapperSession&) = delete;
     RemapperSession& operator=(const RemapperSession&) = delete;
 
@@ -33,8 +33,17 @@ public:
     // that moment.
     void installObservers();
 
+    // The bindings and options from the next key press on: a copy, so the caller's may change
+    // without reaching the remapper until it calls again. Taken under the key-path lock, so a
+    // key being handled on the key thread sees the old ones or the new ones, whole.
+    void setBindings(const InventoryBindings& bindings);
+
     // The game-detection tick: refreshes isWarRun from the frontmost application.
     void eventWithTimer();
+
+    // The platform's key-path lock: the remapper's state may be read or changed only while it is
+    // held, as the key thread handles keys meanwhile.
+    KeyPathLock& keyPathLock() { return *platform_.keyPath; }
 
     InventoryRemapper& remapper() { return *remapper_; }
     const InventoryRemapper& remapper() const { return *remapper_; }

@@ -1,5 +1,7 @@
 #include "platform/fake/FakeFrontmostWatcher.h"
 
+#include "core/platform/NotifyAll.h"
+
 #include <utility>
 
 namespace tarnic {
@@ -22,11 +24,7 @@ void FakeFrontmostWatcher::announce(std::optional<std::string> identifier) {
         return;
     }
     identifier_ = std::move(identifier);
-    // By index and by copy: a handler may install another one while it runs.
-    for (std::size_t i = 0; i < handlers_.size(); ++i) {
-        const Handler handler = handlers_[i];
-        handler(identifier_);
-    }
+    notifyAll(handlers_, identifier_);
 }
 
 void FakeFrontmostWatcher::announceUnread(std::optional<std::string> identifier) {

@@ -1,5 +1,6 @@
 #include "platform/fake/FakeKeyObserver.h"
 
+#include "core/platform/NotifyAll.h"
 #include "platform/fake/FakeAccessibilityTrust.h"
 
 #include <utility>
@@ -33,11 +34,7 @@ bool FakeKeyObserver::deliver(const std::vector<Handler>& handlers, int keyCode)
     if (!reporting()) {
         return false;
     }
-    // By index: a handler may install another monitor while it runs.
-    for (std::size_t i = 0; i < handlers.size(); ++i) {
-        Handler handler = handlers[i];
-        handler(keyCode);
-    }
+    notifyAll(handlers, keyCode);
     return true;
 }
 

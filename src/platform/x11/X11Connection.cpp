@@ -83,7 +83,7 @@ unsigned long X11Connection::errorCount() const {
 
 X11EventPump& X11Connection::eventPump() {
     if (!eventPump_) {
-        eventPump_ = std::make_unique<X11EventPump>(display_);
+        eventPump_ = std::make_unique<X11EventPump>(display_, lock_);
     }
     return *eventPump_;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/platform/KeyPathLock.h"
+
 #include <map>
 #include <memory>
 #include <vector>
@@ -35,6 +37,11 @@ public:
     // the recording may read there.
     X11EventPump& eventPump();
 
+    // Guards what the parts on this connection keep (and Xlib's event queue of it) between the
+    // key thread, which reads this connection's events in the middle of a key, and the main
+    // thread. The platform's key-path lock.
+    const std::shared_ptr<KeyPathLock>& lock() const { return lock_; }
+
     // A client has one event mask per window, and a second XSelectInput replaces the first: the
     // parts that share this connection select through here, each adding its own bits and later
     // taking away only those.
@@ -47,6 +54,7 @@ private:
     explicit X11Connection(_XDisplay* display);
 
     _XDisplay* display_;
+    std::shared_ptr<KeyPathLock> lock_ = makeKeyPathLock();
     std::unique_ptr<X11EventPump> eventPump_;
     // Per window, the masks selected through selectEvents and not yet taken away.
     std::map<unsigned long, std::vector<long>> selections_;

@@ -1,5 +1,6 @@
 #include "platform/x11/X11FrontmostWatcher.h"
 
+#include "core/platform/NotifyAll.h"
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/X11EventPump.h"
 #include "platform/x11/X11FrontmostApplication.h"
@@ -57,11 +58,7 @@ void X11FrontmostWatcher::refresh() {
         return;
     }
     identifier_ = std::move(identifier);
-    // By index and by copy: a handler may install another one while it runs.
-    for (std::size_t i = 0; i < handlers_.size(); ++i) {
-        const Handler handler = handlers_[i];
-        handler(identifier_);
-    }
+    notifyAll(handlers_, identifier_);
 }
 
 } // namespace tarnic::x11

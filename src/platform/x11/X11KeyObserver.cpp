@@ -2,14 +2,19 @@
 
 #include "platform/x11/X11Connection.h"
 
-#include <QSocketNotifier>
-
 #include <X11/Xlib.h>
 #include <X11/Xproto.h>
 #include <X11/extensions/record.h>
 
+#include <cerrno>
 #include <chrono>
+#include <cstdint>
+#include <csignal>
+#include <mutex>
 #include <poll.h>
+#include <pthread.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
 
 namespace tarnic::x11 {
 
@@ -75,18 +80,22 @@ X11KeyObserver::X11KeyObserver(std::shared_ptr<X11Connection> control, const cha
         }
         pollfd descriptor{fd, POLLIN, 0};
         if (poll(&descriptor, 1, static_cast<int>(left.count())) > 0) {
+            const std::lock_guard lock(*control_->lock());
             XRecordProcessReplies(recordDisplay);
         }
     }
 
-    notifier_ = std::make_unique<QSocketNotifier>(fd, QSocketNotifier::Read);
-    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
-                     [this] { readReplies(); });
     // Replies read while waiting may have brought key events already; they were handled.
+    stopFd_ = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+    if (stopFd_ < 0) {
+        recording_ = false;
+        return;
+    }
+    keyThread_ = std::thread([this] { runKeyThread(); });
 }
 
 X11KeyObserver::~X11KeyObserver() {
-    notifier_.reset();
+    stopKeyThread();
     if (context_ != 0) {
         Display* controlDisplay = control_->display();
         XRecordDisableContext(controlDisplay, context_);
@@ -100,16 +109,53 @@ X11KeyObserver::~X11KeyObserver() {
 }
 
 void X11KeyObserver::addKeyDownMonitor(Handler handler) {
+    const std::lock_guard lock(*control_->lock());
     router_.addKeyDownHandler(std::move(handler));
 }
 
 void X11KeyObserver::addFlagsChangedMonitor(Handler handler) {
+    const std::lock_guard lock(*control_->lock());
     router_.addFlagsChangedHandler(std::move(handler));
 }
 
-void X11KeyObserver::readReplies() {
-    // Reads whatever the socket holds and calls receive() for each complete reply.
-    XRecordProcessReplies(recordConnection_->display());
+void X11KeyObserver::runKeyThread() {
+    // Signals are the main thread's business (it ends the program in order on SIGTERM).
+    sigset_t all;
+    sigfillset(&all);
+    pthread_sigmask(SIG_BLOCK, &all, nullptr);
+
+    Display* recordDisplay = recordConnection_->display();
+    pollfd descriptors[2] = {{ConnectionNumber(recordDisplay), POLLIN, 0}, {stopFd_, POLLIN, 0}};
+    for (;;) {
+        if (poll(descriptors, 2, -1) < 0) {
+            if (errno == EINTR) {
+                continue;
+            }
+            return;
+        }
+        if (descriptors[1].revents != 0) {
+            return;
+        }
+        if (descriptors[0].revents != 0) {
+            // Reads whatever the socket holds and calls receive() for each complete reply. A
+            // socket the server closed ends the process from within (the I/O error handler).
+            const std::lock_guard lock(*control_->lock());
+            XRecordProcessReplies(recordDisplay);
+        }
+    }
+}
+
+void X11KeyObserver::stopKeyThread() {
+    if (keyThread_.joinable()) {
+        const std::uint64_t one = 1;
+        while (write(stopFd_, &one, sizeof one) < 0 && errno == EINTR) {
+        }
+        keyThread_.join();
+    }
+    if (stopFd_ >= 0) {
+        close(stopFd_);
+        stopFd_ = -1;
+    }
 }
 
 void RecordCallback::receive(XPointer closure, XRecordInterceptData* intercepted) {

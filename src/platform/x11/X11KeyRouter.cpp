@@ -1,5 +1,6 @@
 #include "platform/x11/X11KeyRouter.h"
 
+#include "core/platform/NotifyAll.h"
 #include "platform/x11/X11KeyCodes.h"
 
 #include <optional>
@@ -36,12 +37,7 @@ void X11KeyRouter::keyReleased(unsigned xKeycode) {
 }
 
 void X11KeyRouter::notify(const std::vector<Handler>& handlers, int macKeyCode) {
-    // By index and by copy: a handler may install another one while it runs, which can move
-    // the vector's elements.
-    for (std::size_t i = 0; i < handlers.size(); ++i) {
-        const Handler handler = handlers[i];
-        handler(macKeyCode);
-    }
+    notifyAll(handlers, macKeyCode);
 }
 
 bool X11KeyRouter::ownWindowActive() const {

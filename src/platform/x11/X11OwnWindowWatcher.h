@@ -29,8 +29,9 @@ class X11Connection;
 // The watcher switches between the two when a window manager starts or ends (_NET_SUPPORTED
 // changes).
 //
-// Everything runs on the main thread (the recording's replies are read there too); the answer
-// is atomic all the same, so that a reader on another thread sees a whole value.
+// Its events are handled by whichever thread reads the main connection (the event loop, or the
+// key thread in the middle of a key), under the platform's key-path lock; the answer is atomic
+// all the same, so that a reader on another thread sees a whole value.
 class X11OwnWindowWatcher {
 public:
     // Starts watching and reads the answer once. Needs the QCoreApplication (the connection's

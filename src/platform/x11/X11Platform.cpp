@@ -32,6 +32,8 @@ std::optional<Platform> makeX11Platform(const char* displayName) {
     const bool serverHasRecord = observer->serverHasRecord();
 
     Platform platform;
+    // The key thread holds the main connection's lock while it handles a key.
+    platform.keyPath = connection->lock();
     platform.keyObserver = std::move(observer);
     platform.keyPoster = std::make_unique<x11::X11KeyPoster>(connection, keypad);
     platform.frontmostApplication = std::make_unique<x11::X11FrontmostApplication>(connection);

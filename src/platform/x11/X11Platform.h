@@ -12,10 +12,12 @@ namespace tarnic {
 // layout's symbols, for naming keys (XKB, followed through its notifications).
 //
 // Call it once, on the main thread, after the QGuiApplication (or QApplication) exists and
-// before its event loop runs; the observer's replies are read by that event loop. The backend
-// opens two connections of its own to `displayName` (null: $DISPLAY): a main one for posting,
-// for the frontmost window, for the keymap and root window events and for controlling the
-// recording, and one that only carries the recording. Qt's own connection is left alone.
+// before its event loop runs. The backend opens two connections of its own to `displayName`
+// (null: $DISPLAY): a main one for posting, for the frontmost window, for the keymap and root
+// window events and for controlling the recording, and one that only carries the recording, read
+// by the observer's key thread, which handles each key (and taps) without waiting for the event
+// loop. The main connection's events are read by the event loop and, in the middle of a key, by
+// the key thread, under the platform's key-path lock. Qt's own connection is left alone.
 //
 // The inventory slots' keypad taps go out on six keycodes the backend claims here, at once, and
 // gives back when the last of the platform's parts is destroyed (see X11KeypadKeycodes): keep the

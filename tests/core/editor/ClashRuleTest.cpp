@@ -17,6 +17,12 @@ namespace {
 using testing::generalCommands;
 using testing::makeRecord;
 
+// The record with the given key chosen by the player.
+AbilityRecord chosen(AbilityRecord record, const std::string& key) {
+    assignKey(record, key);
+    return record;
+}
+
 // The seven owner-less records (Move M, Attack A, Stop S, Hold H, Patrol P, Attack Ground G,
 // Repair R), then the given abilities.
 std::vector<AbilityRecord> listWith(const std::vector<AbilityRecord>& abilities) {
@@ -41,28 +47,64 @@ TEST(KeyInForce, AbsentFieldsGiveNoKey) {
     EXPECT_EQ(keyInForce(record), "K");
 }
 
+TEST(KeyIsChosen, OnlyAKeyThePlayerChose) {
+    auto record = makeRecord("Heal", "Priest", "E");
+    EXPECT_FALSE(keyIsChosen(record));
+    // His own choice of the default letter is a choice all the same.
+    assignKey(record, "E");
+    EXPECT_TRUE(keyIsChosen(record));
+    record[new_hotkey] = "";
+    EXPECT_FALSE(keyIsChosen(record));
+    record.erase(new_hotkey);
+    EXPECT_FALSE(keyIsChosen(record));
+}
+
 TEST(ClashRule, TwoAbilitiesOfOneOwnerOnOneKeyAreOneClash) {
+    const auto list = listWith({makeRecord("Heal", "Priest", "E"),
+                                chosen(makeRecord("Inner Fire", "Priest", "F"), "E"),
+                                makeRecord("Dispel", "Priest", "D")});
+    EXPECT_EQ(findClashes(list), (std::vector<Clash>{{7, 8}}));
+}
+
+TEST(ClashRule, TwoDefaultKeysNeverClash) {
     const auto list =
-        listWith({makeRecord("Heal", "Priest", "E"), makeRecord("Inner Fire", "Priest", "E"),
-                  makeRecord("Dispel", "Priest", "D")});
+        listWith({makeRecord("Heal", "Priest", "E"), makeRecord("Inner Fire", "Priest", "E")});
+    EXPECT_TRUE(findClashes(list).empty());
+}
+
+TEST(ClashRule, TwoChosenKeysClash) {
+    const auto list = listWith({chosen(makeRecord("Heal", "Priest", "E"), "Q"),
+                                chosen(makeRecord("Inner Fire", "Priest", "F"), "Q")});
     EXPECT_EQ(findClashes(list), (std::vector<Clash>{{7, 8}}));
 }
 
 TEST(ClashRule, AbilitiesOfDifferentOwnersDoNotClash) {
-    const auto list =
-        listWith({makeRecord("Heal", "Priest", "E"), makeRecord("Slow", "Sorceress", "E")});
+    const auto list = listWith({chosen(makeRecord("Heal", "Priest", "E"), "E"),
+                                chosen(makeRecord("Slow", "Sorceress", "W"), "E")});
     EXPECT_TRUE(findClashes(list).empty());
 }
 
 TEST(ClashRule, AnOwnersAbilityClashesWithAGeneralCommandOnItsKey) {
-    // Attack Ground is G; so is this ability.
+    // Attack Ground is G; the player puts this ability on G too.
+    const auto list = listWith({chosen(makeRecord("Purge", "Shaman", "U"), "G")});
+    EXPECT_EQ(findClashes(list), (std::vector<Clash>{{5, 7}}));
+}
+
+TEST(ClashRule, AGeneralCommandsDefaultKeyAndAnAbilitysDefaultKeyDoNotClash) {
+    // Both on G, as the game ships them.
     const auto list = listWith({makeRecord("Purge", "Shaman", "G")});
+    EXPECT_TRUE(findClashes(list).empty());
+}
+
+TEST(ClashRule, AGeneralCommandMovedOntoAnAbilitysDefaultKeyClashes) {
+    auto list = listWith({makeRecord("Purge", "Shaman", "U")});
+    assignKey(list[5], "U"); // Attack Ground
     EXPECT_EQ(findClashes(list), (std::vector<Clash>{{5, 7}}));
 }
 
 TEST(ClashRule, RepairIsNotAGeneralCommand) {
     // Repair (position 6) is R; an owner's ability on R does not clash with it.
-    const auto list = listWith({makeRecord("Reveal", "Tower", "R")});
+    const auto list = listWith({chosen(makeRecord("Reveal", "Tower", "V"), "R")});
     EXPECT_TRUE(findClashes(list).empty());
 }
 
@@ -80,7 +122,7 @@ TEST(ClashRule, AGeneralCommandAndRepairDoNotClash) {
 
 TEST(ClashRule, OwnerlessRecordsAmongTheFirstSixOnlyByTheirPlace) {
     // An owner-less ability further down the list is no general command.
-    const auto list = listWith({makeRecord("Loose", std::nullopt, "M")});
+    const auto list = listWith({chosen(makeRecord("Loose", std::nullopt, "L"), "M")});
     EXPECT_TRUE(findClashes(list).empty());
 }
 
@@ -94,25 +136,43 @@ TEST(ClashRule, TheChosenKeyCountsNotTheDefaultKey) {
 }
 
 TEST(ClashRule, ThreeAbilitiesOnOneKeyAreThreeClashesInListOrder) {
-    const auto list = listWith({makeRecord("A1", "Hero", "T"), makeRecord("A2", "Hero", "T"),
-                                makeRecord("Other", "Unit", "T"), makeRecord("A3", "Hero", "T")});
+    // The player's T on the first; the others keep their own T.
+    const auto list =
+        listWith({chosen(makeRecord("A1", "Hero", "B"), "T"), makeRecord("A2", "Hero", "T"),
+                  makeRecord("Other", "Unit", "T"), chosen(makeRecord("A3", "Hero", "C"), "T")});
     EXPECT_EQ(findClashes(list), (std::vector<Clash>{{7, 8}, {7, 10}, {8, 10}}));
 }
 
 TEST(ClashRule, AnOwnerWrittenEmptyIsAnOwnerOfItsOwn) {
-    const auto list =
-        listWith({makeRecord("X", std::string(), "Q"), makeRecord("Y", std::string(), "Q")});
+    const auto list = listWith(
+        {chosen(makeRecord("X", std::string(), "Q"), "Q"), makeRecord("Y", std::string(), "Q")});
     EXPECT_EQ(findClashes(list), (std::vector<Clash>{{7, 8}}));
 }
 
-TEST(ClashRule, TheUntouchedCatalogueHasTwoClashesOnAttackGround) {
+TEST(ClashRule, TheUntouchedCatalogueHasNoClash) {
+    // The game's own keys put Attack Ground, Purge and Gold Mine on G; none of them was chosen.
     const auto& list = all_data();
-    const auto clashes = findClashes(list);
-    ASSERT_EQ(clashes.size(), 2u);
-    EXPECT_EQ(list[clashes[0].first], attack_ground_());
-    EXPECT_EQ(list[clashes[0].second], purge_());
-    EXPECT_EQ(list[clashes[1].first], attack_ground_());
-    EXPECT_EQ(list[clashes[1].second], gold_mine_());
+    EXPECT_TRUE(findClashes(list).empty());
+}
+
+TEST(ClashRule, TheGamesOwnKeyChosenByHandClashesWithTheOthersOnIt) {
+    // The player gives Purge G, its default letter: now it is his key, and it meets Attack
+    // Ground's G. Gold Mine keeps the game's G and still clashes with nothing.
+    auto list = all_data();
+    std::size_t purge = list.size();
+    std::size_t attackGround = list.size();
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        if (list[i] == purge_()) {
+            purge = i;
+        }
+        if (list[i] == attack_ground_()) {
+            attackGround = i;
+        }
+    }
+    ASSERT_LT(purge, list.size());
+    ASSERT_LT(attackGround, list.size());
+    assignKey(list[purge], "G");
+    EXPECT_EQ(findClashes(list), (std::vector<Clash>{{attackGround, purge}}));
 }
 
 TEST(ClashRule, TheGridLayoutOfTheCatalogueHasNoClash) {

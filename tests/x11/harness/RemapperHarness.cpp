@@ -11,6 +11,7 @@
 // Options: --bind <slot>,<modifier>,<key> (repeatable; the n-th fills binding n),
 //          --timer-ms <interval of the game-detection timer, default 2000>, --quiet,
 //          --only-game-in-front, --pause-in-chat (the two inventory options, off without).
+#include "core/bindings/BindingArray.h"
 #include "core/remapper/RemapperSession.h"
 #include "platform/x11/X11Platform.h"
 #include "process/QuitOnSignals.h"
@@ -73,26 +74,28 @@ int main(int argc, char** argv) {
     // Ends in order on SIGTERM, SIGINT and SIGHUP, as the application does.
     tarnic::QuitOnSignals quitOnSignals;
 
-    tarnic::InventoryRemapper::Models models;
-    tarnic::InventoryOptions options;
+    tarnic::InventoryBindings bindings;
     std::size_t bound = 0;
     int timerMs = 2000;
     bool quiet = false;
     const QStringList arguments = application.arguments();
     for (qsizetype i = 1; i < arguments.size(); ++i) {
-        if (arguments[i] == "--bind" && i + 1 < arguments.size() && bound < models.size()) {
+        if (arguments[i] == "--bind" && i + 1 < arguments.size() &&
+            bound < bindings.slotBindings.size()) {
+            std::vector<std::int64_t> values;
             for (const QString& part : arguments[++i].split(',')) {
-                models[bound].push_back(part.toLongLong());
+                values.push_back(part.toLongLong());
             }
+            bindings.slotBindings[bound] = tarnic::bindingFromArray(values);
             ++bound;
         } else if (arguments[i] == "--timer-ms" && i + 1 < arguments.size()) {
             timerMs = arguments[++i].toInt();
         } else if (arguments[i] == "--quiet") {
             quiet = true;
         } else if (arguments[i] == "--only-game-in-front") {
-            options.onlyWhileGameInFront = true;
+            bindings.options.onlyWhileGameInFront = true;
         } else if (arguments[i] == "--pause-in-chat") {
-            options.pauseWhileTypingInChat = true;
+            bindings.options.pauseWhileTypingInChat = true;
         }
     }
 
@@ -119,7 +122,8 @@ int main(int argc, char** argv) {
     platform->frontmostWatcher->addChangeMonitor([](const std::optional<std::string>& identifier) {
         say(QString("front %1").arg(QString::fromStdString(identifier.value_or("none"))));
     });
-    tarnic::RemapperSession session(models, options, *platform);
+    tarnic::RemapperSession session(*platform);
+    session.setBindings(bindings);
     session.installObservers();
 
     QTimer timer;
