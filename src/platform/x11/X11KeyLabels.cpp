@@ -7,6 +7,7 @@
 #include <X11/XKBlib.h>
 #include <X11/Xlib.h>
 
+#include <mutex>
 #include <utility>
 
 namespace tarnic::x11 {
@@ -40,6 +41,9 @@ int effectiveGroup(XkbDescPtr xkb, unsigned keycode, int group) {
 
 X11KeyLabels::X11KeyLabels(std::shared_ptr<X11Connection> connection)
     : connection_(std::move(connection)) {
+    // The key thread may already read this connection's events in the middle of a key: every
+    // request here is made under the connection's lock.
+    const std::lock_guard lock(*connection_->lock());
     Display* display = connection_->display();
     int opcode = 0;
     int eventBase = 0;
@@ -97,9 +101,19 @@ void X11KeyLabels::takeInChanges() {
 }
 
 void X11KeyLabels::rereadAndTell() {
-    if (!reread()) {
-        return;
+    {
+        // A key holds the lock for microseconds; much longer, and the key thread waits for the
+        // main thread itself. The layout is then read at the next settle instead.
+        const std::unique_lock lock(*connection_->lock(), kLockPatience);
+        if (!lock.owns_lock()) {
+            settle_.start();
+            return;
+        }
+        if (!reread()) {
+            return;
+        }
     }
+    // The handlers name keys in widgets: outside the lock, which the key thread waits on.
     // By index and by copy: a handler may add another.
     for (std::size_t i = 0; i < handlers_.size(); ++i) {
         const Handler handler = handlers_[i];

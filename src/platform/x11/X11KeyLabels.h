@@ -41,6 +41,8 @@ public:
     void addChangeMonitor(Handler handler) override;
 
     static constexpr std::chrono::milliseconds kSettleTime{150};
+    // How long a new reading waits for the key-path lock before it tries again a settle later.
+    static constexpr std::chrono::milliseconds kLockPatience{200};
 
     // Reads the notifications that have arrived and, after a change, the layout again at once,
     // without waiting for kSettleTime.
