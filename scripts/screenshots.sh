@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Refreshes the README's pictures, docs/screenshots/editor.png and docs/screenshots/inventory.png.
+# Refreshes the README's pictures, docs/screenshots/editor.png, docs/screenshots/inventory.png and
+# docs/screenshots/inventory-azerty.png (the same panel with a French AZERTY layout active).
 # Builds the application, starts it on a private Xvfb (with a window manager, for the window frame)
 # against a loopback copy of the maker's site, on a fresh settings folder, drives the real window
 # with xdotool as a player would, and crops screen shots taken with `import -window root`.
@@ -97,7 +98,8 @@ read -r cx cy < <(xwininfo -id "$window" | awk '/Absolute upper-left X:/ { x = $
 # Qt paints after the event that changed a control; give it a moment before each shot.
 settle() { sleep 0.7; }
 
-# Points and areas below are window coordinates of the default 940x640 layout.
+# Points and areas below are window coordinates of the default 940x720 layout.
+inventory_height=360
 mkdir -p docs/screenshots
 
 # The editor: every unit and hero ability laid out on Q W E R, a hero ability selected.
@@ -108,12 +110,27 @@ settle
 shot docs/screenshots/editor.png "$(frame_geometry)"
 
 # The inventory panel: slot 1 bound to Shift+Z.
-click 707 337        # Slot 1
+click 707 364        # Slot 1
 settle
-click 782 453        # Shift
-click 702 453        # the key pop-up opens
+click 782 478        # Shift
+click 702 478        # the key pop-up opens
 settle
 xdotool type --delay 80 "Z"
 xdotool key Return
 settle
-shot docs/screenshots/inventory.png "316x320+$((cx + 620))+$((cy + 252))"
+shot docs/screenshots/inventory.png "316x${inventory_height}+$((cx + 620))+$((cy + 280))"
+
+# The same panel under a French AZERTY layout: the keys are named as it prints them, and the bound
+# key, pressed in another program, shows its tap under the slots. xdotool types by keysym, so
+# "shift+w" presses the key that prints W on AZERTY: the one the binding holds.
+setxkbmap fr
+xmessage -geometry +1000+760 -name tarnic-shot-peer "Another program" >/dev/null 2>&1 &
+pids+=($!)
+peer=$(timeout 20 xdotool search --sync --onlyvisible --classname tarnic-shot-peer | awk 'NR == 1') ||
+    fail "no window to type into"
+xdotool windowactivate --sync "$peer"
+settle
+xdotool key shift+w
+settle
+shot docs/screenshots/inventory-azerty.png "316x${inventory_height}+$((cx + 620))+$((cy + 280))"
+

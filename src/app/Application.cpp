@@ -11,6 +11,9 @@
 #include <QThread>
 #include <QTimer>
 
+#include <chrono>
+#include <mutex>
+
 namespace tarnic {
 
 namespace {
@@ -48,14 +51,22 @@ Application::Options::Options() : siteUrl(siteBaseUrl()) {}
 Application::Application(Platform platform, Options options)
     : options_(std::move(options)), fatalAlerts_(options_.alerts), storeReading_(readStore()),
       platform_(std::move(platform)), store_(FatalAlerts::take(storeReading_)),
-      programOptions_(openProgramOptions()), editor_(*store_),
+      programOptions_(openProgramOptions()), editor_(*store_, programOptions_.get()),
       // The import reports through the same seam as the version gate.
       fileExchange_(editor_, alerts()),
-      inventoryPanel_(*store_, *programOptions_, inventoryBindings_), remapperSession_(platform_),
+      inventoryPanel_(*store_, *programOptions_, inventoryBindings_),
+      tapRelay_([this](const SlotTap& tap) { inventoryPanel_.showTap(tap); }),
+      remapperSession_(platform_),
       delegate_(*platform_.accessibilityTrust, options_.siteUrl, alerts()) {
     QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &delegate_,
                      &AppDelegate::applicationWillTerminate);
     window_.connectControllers(editor_, fileExchange_, inventoryPanel_);
+    {
+        // The relay is declared before the session, so it outlives every key the session hands
+        // to the remapper.
+        const std::lock_guard lock(remapperSession_.keyPathLock());
+        remapperSession_.remapper().setTapListener(&tapRelay_);
+    }
     QObject::connect(
         &inventoryPanel_, &InventoryPanelController::bindingsChanged, &inventoryPanel_,
         [this](const InventoryBindings& bindings) { remapperSession_.setBindings(bindings); });
@@ -70,6 +81,20 @@ AlertPresenter& Application::alerts() {
     return options_.alerts != nullptr ? *options_.alerts : messageBoxes_;
 }
 
+void Application::setKeyNames() {
+    editor_.setKeyNames(keyNames_->names());
+    inventoryPanel_.setKeyNames(keyNames_->names());
+}
+
+void Application::showGameRunning() {
+    // The key thread may be handling a key: the remapper is read under its lock. Held much
+    // longer, the key thread waits for the main thread itself; this line waits for the next tick.
+    const std::unique_lock lock(remapperSession_.keyPathLock(), std::chrono::milliseconds(200));
+    if (lock.owns_lock()) {
+        inventoryPanel_.showGameRunning(remapperSession_.remapper().isWarRun);
+    }
+}
+
 void Application::windowWillClose() {
     // Queued: the loop ends after the event that asked for it has been handled.
     QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit,
@@ -77,6 +102,12 @@ void Application::windowWillClose() {
 }
 
 void Application::start() {
+    // The keys are named as the player's layout prints them from the first frame on, and again
+    // at every change of layout.
+    keyNames_ = std::make_unique<LayoutKeyNames>(platform_.keyLabels.get());
+    setKeyNames();
+    QObject::connect(keyNames_.get(), &LayoutKeyNames::changed, &window_,
+                     [this] { setKeyNames(); });
     // The view loads: the bindings before the list, as a store of the wrong type must end the
     // program the same way whichever key is damaged first.
     inventoryPanel_.loadBindings();
@@ -96,6 +127,8 @@ void Application::start() {
     remapperSession_.installObservers();
     gameDetectionTimer_ = std::make_unique<GameDetectionTimer>(remapperSession_, nullptr,
                                                                options_.gameDetectionInterval);
+    QObject::connect(gameDetectionTimer_.get(), &GameDetectionTimer::ticked, &inventoryPanel_,
+                     [this] { showGameRunning(); });
     window_.show();
     // From now on closing the window ends the application.
     QObject::connect(&window_, &MainWindow::closing, &window_, &Application::windowWillClose);

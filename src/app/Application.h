@@ -6,7 +6,9 @@
 #include "gui/EditorController.h"
 #include "gui/FileExchangeController.h"
 #include "gui/InventoryPanelController.h"
+#include "gui/LayoutKeyNames.h"
 #include "gui/MainWindow.h"
+#include "gui/TapRelay.h"
 #include "platform/timer/GameDetectionTimer.h"
 #include "shell/AppDelegate.h"
 #include "shell/FatalAlerts.h"
@@ -75,6 +77,7 @@ public:
     RemapperSession& remapperSession() { return remapperSession_; }
     // Null until start().
     GameDetectionTimer* gameDetectionTimer() { return gameDetectionTimer_.get(); }
+    TapRelay& tapRelay() { return tapRelay_; }
     MainWindow& window() { return window_; }
     AppDelegate& delegate() { return delegate_; }
 
@@ -83,6 +86,10 @@ private:
     static void windowWillClose();
     // Where alerts go: the tests' presenter, else real message boxes.
     AlertPresenter& alerts();
+    // Hands the keys' names in the player's layout to the editor and the panel.
+    void setKeyNames();
+    // Under the slots: whether the game detection found the game at its last look.
+    void showGameRunning();
 
     Options options_;
     // First: from here on a fatal error is also shown in a message box.
@@ -102,8 +109,13 @@ private:
     EditorController editor_;
     FileExchangeController fileExchange_;
     InventoryPanelController inventoryPanel_;
+    // Before the session: the remapper tells it of every tap, on the key thread, until the session
+    // is gone. It shows them in the panel's line under the slots.
+    TapRelay tapRelay_;
     RemapperSession remapperSession_;
     std::unique_ptr<GameDetectionTimer> gameDetectionTimer_;
+    // The keys' names as the player's layout prints them; made by start().
+    std::unique_ptr<LayoutKeyNames> keyNames_;
     std::unique_ptr<AfterFirstPaint> afterFirstPaint_;
     AppDelegate delegate_;
 };

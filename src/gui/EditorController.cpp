@@ -3,6 +3,7 @@
 #include "core/catalogue/Catalogue.h"
 #include "core/editor/ClashRule.h"
 #include "core/editor/GridLayout.h"
+#include "core/editor/GridLetters.h"
 #include "core/editor/KeyAssignment.h"
 #include "core/editor/SelectionDetail.h"
 #include "core/fatal/Fatal.h"
@@ -27,8 +28,11 @@ QPixmap pictureFor(const std::string& name) {
 
 } // namespace
 
-EditorController::EditorController(QSettings& settings, QObject* parent)
+EditorController::EditorController(QSettings& settings, QSettings* options, QObject* parent)
     : QObject(parent), mainDic_(all_data()), defaults_(settings), tableModel_(mainDic_) {
+    if (options != nullptr) {
+        options_.emplace(*options);
+    }
     initGuiResources();
 }
 
@@ -57,6 +61,11 @@ void EditorController::viewDidLoad() {
 
     selectRow(tableView(), 0);
     listChanged();
+
+    if (options_) {
+        gridFollowsKeyboard_ = options_->gridFollowsKeyboard();
+        outlet(outlets_.gridFollowsBox, "gridFollowsBox").setChecked(gridFollowsKeyboard_);
+    }
 }
 
 QTableView& EditorController::tableView() const {
@@ -115,7 +124,7 @@ void EditorController::resetToDef() {
 }
 
 void EditorController::allQWER() {
-    tarnic::allQWER(mainDic_);
+    tarnic::allQWER(mainDic_, gridFollowsKeyboard_ ? gridLettersOf(keyNames_) : qwerLetters());
     reloadData();
     storeMainDic();
     syncKeysPopup();
@@ -130,6 +139,13 @@ ImportReport EditorController::importKeys(std::string_view text) {
         listChanged();
     }
     return report;
+}
+
+void EditorController::setGridFollowsKeyboard() {
+    gridFollowsKeyboard_ = outlet(outlets_.gridFollowsBox, "gridFollowsBox").isChecked();
+    if (options_) {
+        options_->setGridFollowsKeyboard(gridFollowsKeyboard_);
+    }
 }
 
 void EditorController::storeMainDic() {

@@ -2,9 +2,12 @@
 
 #include "core/import/ImportReport.h"
 #include "core/record/AbilityRecord.h"
+#include "core/vocabulary/KeyNames.h"
 #include "gui/AbilityTableModel.h"
+#include "store/ProgramOptions.h"
 #include "store/UserDefaults.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QObject>
@@ -12,6 +15,7 @@
 #include <QSettings>
 #include <QTableView>
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -30,6 +34,8 @@ struct EditorOutlets {
     QPointer<QLabel> clashLbl;
     // The status bar's warning, shown while the store file lacks a change it was handed.
     QPointer<QLabel> storeWarningLbl;
+    // "Grid follows my keyboard", under the Grid layout button.
+    QPointer<QCheckBox> gridFollowsBox;
 };
 
 // The hotkey editor: the working list of abilities in the table, the selected ability's detail
@@ -38,16 +44,24 @@ struct EditorOutlets {
 class EditorController : public QObject {
     Q_OBJECT
 public:
-    // `settings` is the user defaults store; it must outlive the controller.
-    explicit EditorController(QSettings& settings, QObject* parent = nullptr);
+    // `settings` is the user defaults store and `options` the program's options file (see
+    // ProgramOptions), where "Grid follows my keyboard" is kept; without one the option starts
+    // off and is not kept. Both must outlive the controller.
+    explicit EditorController(QSettings& settings, QSettings* options = nullptr,
+                              QObject* parent = nullptr);
     ~EditorController() override;
 
     // Points the controller at the window's controls. Call once, before viewDidLoad.
     void setOutlets(const EditorOutlets& outlets) { outlets_ = outlets; }
 
     // Runs once, after the outlets are set: fills the hotkey pop-up, restores and stores the
-    // list and selects the first row.
+    // list, selects the first row and restores "Grid follows my keyboard".
     void viewDidLoad();
+
+    // The keys' names in the player's layout: the letters of the next grid layout when it follows
+    // the keyboard.
+    void setKeyNames(const KeyNames& names) { keyNames_ = names; }
+    const KeyNames& keyNames() const { return keyNames_; }
 
     // The working list, one table row per record, in list order.
     const std::vector<AbilityRecord>& mainDic() const { return mainDic_; }
@@ -65,6 +79,8 @@ public:
     void setKey();
     void resetToDef();
     void allQWER();
+    // The "Grid follows my keyboard" box: kept and stored; it changes only the next grid layout.
+    void setGridFollowsKeyboard();
 
     // After every write to the store, the editor's own or another's: the warning, and what the
     // store holds.
@@ -89,6 +105,9 @@ private:
     std::vector<AbilityRecord> handedDic_;
     AbilityTableModel tableModel_;
     EditorOutlets outlets_;
+    std::optional<ProgramOptions> options_;
+    KeyNames keyNames_;
+    bool gridFollowsKeyboard_ = false;
 };
 
 } // namespace tarnic

@@ -3,11 +3,11 @@
 #include "core/editor/InventoryBinding.h"
 #include "core/editor/InventoryStatus.h"
 #include "core/vocabulary/KeyCodes.h"
+#include "gui/InventoryPopupNames.h"
 #include "gui/Outlet.h"
 #include "gui/PopUpTitles.h"
 
 #include <string>
-#include <string_view>
 
 namespace tarnic {
 
@@ -26,14 +26,8 @@ void InventoryPanelController::loadBindings() {
 }
 
 void InventoryPanelController::viewDidLoad() {
-    QComboBox& inventory = outlet(outlets_.inventPopup, "inventPopup");
-    inventory.addItem(toQString(select));
-    for (std::string_view title : keyboardKeysNum) {
-        inventory.addItem(toQString(title));
-    }
-    for (std::string_view title : keyboardKeys) {
-        inventory.addItem(toQString(title));
-    }
+    fillInventoryPopup(outlet(outlets_.inventPopup, "inventPopup"), keyNames_);
+    viewLoaded_ = true;
 
     // The slot buttons show the restored bindings, and the options what was stored (off on a
     // first start).
@@ -45,7 +39,21 @@ void InventoryPanelController::viewDidLoad() {
         .setChecked(bindings_.options.onlyWhileGameInFront);
     outlet(outlets_.pauseInChatBox, "pauseInChatBox")
         .setChecked(bindings_.options.pauseWhileTypingInChat);
+    tapStatus_.attach(&outlet(outlets_.gameStatusLbl, "gameStatusLbl"),
+                      &outlet(outlets_.lastTapLbl, "lastTapLbl"));
     emit bindingsChanged(bindings_);
+}
+
+void InventoryPanelController::setKeyNames(const KeyNames& names) {
+    keyNames_ = names;
+    tapStatus_.setKeyNames(keyNames_);
+    if (!viewLoaded_) {
+        return;
+    }
+    nameInventoryKeys(outlet(outlets_.inventPopup, "inventPopup"), keyNames_);
+    for (int n = 1; n <= InventoryBindings::kSlotCount; ++n) {
+        showSlotTitle(n);
+    }
 }
 
 void InventoryPanelController::showInventoryStatus(const AccessibilityTrust& trust) {
@@ -56,31 +64,12 @@ void InventoryPanelController::showInventoryStatus(const AccessibilityTrust& tru
 void InventoryPanelController::showSlotTitle(int slot) {
     const auto index = static_cast<std::size_t>(slot - 1);
     outlet(outlets_.inventButtons.at(index), "invent" + std::to_string(slot))
-        .setText(toQString(slotTitle(slot, bindings_.of(slot))));
+        .setText(toQString(slotTitle(slot, bindings_.of(slot), keyNames_)));
 }
 
 void InventoryPanelController::invent(std::int64_t slot) {
     inventoryEditNow_ = slot;
     display(bindings_.of(static_cast<int>(slot)));
-}
-
-void InventoryPanelController::invent1() {
-    invent(1);
-}
-void InventoryPanelController::invent2() {
-    invent(2);
-}
-void InventoryPanelController::invent3() {
-    invent(3);
-}
-void InventoryPanelController::invent4() {
-    invent(4);
-}
-void InventoryPanelController::invent5() {
-    invent(5);
-}
-void InventoryPanelController::invent6() {
-    invent(6);
 }
 
 void InventoryPanelController::display(const std::optional<SlotBinding>& binding) {
@@ -92,7 +81,7 @@ void InventoryPanelController::display(const std::optional<SlotBinding>& binding
     if (!binding) {
         return;
     }
-    const InventoryDisplay shown = displayOf(binding);
+    const InventoryDisplay shown = displayOf(binding, keyNames_);
     selectItemWithTitle(outlet(outlets_.inventPopup, "inventPopup"), shown.title);
     outlet(outlets_.isShiftBox, "isShiftBox").setChecked(shown.shift);
 }
@@ -101,7 +90,8 @@ void InventoryPanelController::setInventory() {
     const std::string title =
         selectedTitle(outlet(outlets_.inventPopup, "inventPopup")).value_or(std::string());
     const bool shift = outlet(outlets_.isShiftBox, "isShiftBox").checkState() != Qt::Unchecked;
-    if (std::optional<SlotBinding> binding = bindingFrom(inventoryEditNow_, title, shift)) {
+    if (std::optional<SlotBinding> binding =
+            bindingFrom(inventoryEditNow_, title, shift, keyNames_)) {
         const auto slot = static_cast<int>(inventoryEditNow_);
         bindings_.of(slot) = *binding;
         emit bindingsChanged(bindings_);

@@ -2,6 +2,9 @@
 
 #include "core/bindings/InventoryBindings.h"
 #include "core/platform/AccessibilityTrust.h"
+#include "core/remapper/TapListener.h"
+#include "core/vocabulary/KeyNames.h"
+#include "gui/TapStatusPresenter.h"
 #include "store/ProgramOptions.h"
 #include "store/UserDefaults.h"
 
@@ -30,6 +33,9 @@ struct InventoryPanelOutlets {
     QPointer<QCheckBox> pauseInChatBox;
     // Whether the inventory keys can work, under the slots.
     QPointer<QLabel> inventStatusLbl;
+    // Whether the game was found, and what the last tap did (it fades), under the slots.
+    QPointer<QLabel> gameStatusLbl;
+    QPointer<QLabel> lastTapLbl;
 };
 
 // The inventory keys' panel: the six slot buttons, the key pop-up with its Shift box, Delete,
@@ -57,17 +63,24 @@ public:
     void viewDidLoad();
     // Says under the slots whether the inventory keys can work, from the platform's trust.
     void showInventoryStatus(const AccessibilityTrust& trust);
+    // Names the keys as the player's layout prints them: the key pop-up, the slot buttons and the
+    // last tap. Stored bindings do not change.
+    void setKeyNames(const KeyNames& names);
+    // What the last tap did, and whether the game was found at the last look.
+    void showTap(const SlotTap& tap) { tapStatus_.showTap(tap); }
+    void showGameRunning(bool running) { tapStatus_.showGameRunning(running); }
+    TapStatusPresenter& tapStatus() { return tapStatus_; }
 
     // The slot (1 to 6) the inventory controls edit; 0 until a slot is chosen.
     std::int64_t inventoryEditNow() const { return inventoryEditNow_; }
 
     // Actions.
-    void invent1();
-    void invent2();
-    void invent3();
-    void invent4();
-    void invent5();
-    void invent6();
+    void invent1() { invent(1); }
+    void invent2() { invent(2); }
+    void invent3() { invent(3); }
+    void invent4() { invent(4); }
+    void invent5() { invent(5); }
+    void invent6() { invent(6); }
     void display(const std::optional<SlotBinding>& binding);
     void setInventory();
     void setInventoryKeyBox();
@@ -93,6 +106,9 @@ private:
     InventoryBindings& bindings_;
     std::int64_t inventoryEditNow_ = 0;
     InventoryPanelOutlets outlets_;
+    KeyNames keyNames_;
+    TapStatusPresenter tapStatus_;
+    bool viewLoaded_ = false;
 };
 
 } // namespace tarnic

@@ -63,7 +63,8 @@ void MainWindow::connectControllers(EditorController& editor, FileExchangeContro
                        .defHotkey = w.defHotkey,
                        .keysPopup = w.keysPopup,
                        .clashLbl = findChild<QLabel*>(QStringLiteral("clashLbl")),
-                       .storeWarningLbl = findChild<QLabel*>(QStringLiteral("storeWarningLbl"))});
+                       .storeWarningLbl = findChild<QLabel*>(QStringLiteral("storeWarningLbl")),
+                       .gridFollowsBox = w.gridFollowsBox});
     fileExchange.setWindow(this);
     inventoryPanel.setOutlets(
         {.inventButtons = {w.invent1, w.invent2, w.invent3, w.invent4, w.invent5, w.invent6},
@@ -72,7 +73,9 @@ void MainWindow::connectControllers(EditorController& editor, FileExchangeContro
          .delBTN = w.delBTN,
          .onlyInGameBox = w.onlyInGameBox,
          .pauseInChatBox = w.pauseInChatBox,
-         .inventStatusLbl = w.inventStatusLbl});
+         .inventStatusLbl = w.inventStatusLbl,
+         .gameStatusLbl = w.gameStatusLbl,
+         .lastTapLbl = w.lastTapLbl});
 
     // A pop-up changes a key only when the player picks from its list; the pick sends the
     // action, then the focus goes back to the table so that the arrow keys move through the
@@ -105,6 +108,8 @@ void MainWindow::connectControllers(EditorController& editor, FileExchangeContro
             &InventoryPanelController::setOnlyWhileGameInFront);
     connect(w.pauseInChatBox, &QCheckBox::clicked, &p,
             &InventoryPanelController::setPauseWhileTypingInChat);
+    connect(w.gridFollowsBox, &QCheckBox::clicked, &editor,
+            &EditorController::setGridFollowsKeyboard);
 }
 
 } // namespace tarnic

@@ -12,6 +12,7 @@ namespace {
 
 const QString kOnlyWhileGameInFront = QStringLiteral("InventoryKeys/onlyWhileGameInFront");
 const QString kPauseWhileTypingInChat = QStringLiteral("InventoryKeys/pauseWhileTypingInChat");
+const QString kGridFollowsKeyboard = QStringLiteral("GridLayout/followsKeyboard");
 
 // "true" and "false" as QSettings writes them; anything else is off.
 bool isOn(const QSettings& settings, const QString& key) {
@@ -62,6 +63,14 @@ void ProgramOptions::setOnlyWhileGameInFront(bool on) {
 
 void ProgramOptions::setPauseWhileTypingInChat(bool on) {
     set(kPauseWhileTypingInChat, on);
+}
+
+bool ProgramOptions::gridFollowsKeyboard() const {
+    return isOn(settings_, kGridFollowsKeyboard);
+}
+
+void ProgramOptions::setGridFollowsKeyboard(bool on) {
+    set(kGridFollowsKeyboard, on);
 }
 
 void ProgramOptions::set(const QString& key, bool on) {

@@ -31,6 +31,10 @@ public:
     InventoryOptions inventoryOptions() const;
     void setOnlyWhileGameInFront(bool on);
     void setPauseWhileTypingInChat(bool on);
+    // "Grid follows my keyboard": the grid layout hands out the letters the player's layout
+    // prints where Q, W, E and R sit. Off unless stored on.
+    bool gridFollowsKeyboard() const;
+    void setGridFollowsKeyboard(bool on);
 
 private:
     void set(const QString& key, bool on);

@@ -18,11 +18,15 @@ std::optional<std::string> ownerOf(const AbilityRecord& record) {
 } // namespace
 
 void allQWER(std::vector<AbilityRecord>& list) {
+    allQWER(list, qwerLetters());
+}
+
+void allQWER(std::vector<AbilityRecord>& list, const GridLetters& letters) {
     std::optional<std::string> previousOwner = std::string();
     std::int64_t run = 0;
     for (std::size_t i = kFirstLaidOutIndex; i < list.size(); ++i) {
         AbilityRecord& record = list[i];
-        fillTemplate(record, "Q");
+        fillTemplate(record, letters[0]);
         std::optional<std::string> owner = ownerOf(record);
         if (owner != previousOwner) {
             run = 0;
@@ -32,16 +36,16 @@ void allQWER(std::vector<AbilityRecord>& list) {
             }
             switch (run) {
             case 1:
-                fillTemplate(record, "W");
+                fillTemplate(record, letters[1]);
                 break;
             case 2:
-                fillTemplate(record, "E");
+                fillTemplate(record, letters[2]);
                 break;
             case 3:
-                fillTemplate(record, "R");
+                fillTemplate(record, letters[3]);
                 break;
             default:
-                // There is no fifth letter: the fifth and later abilities keep Q.
+                // There is no fifth letter: the fifth and later abilities keep the first.
                 break;
             }
         }

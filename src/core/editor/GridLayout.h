@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/editor/GridLetters.h"
 #include "core/record/AbilityRecord.h"
 
 #include <cstddef>
@@ -17,5 +18,8 @@ inline constexpr std::size_t kFirstLaidOutIndex = 7;
 // so a first laid-out record whose owner is "" continues that run; a missing owner equals only
 // another missing owner.
 void allQWER(std::vector<AbilityRecord>& list);
+// The same with other letters in place of Q, W, E and R (gridLettersOf), by the same rule: the
+// fifth and later abilities of a run get the first letter again.
+void allQWER(std::vector<AbilityRecord>& list, const GridLetters& letters);
 
 } // namespace tarnic

@@ -6,6 +6,10 @@
 namespace tarnic {
 
 InventoryDisplay displayOf(const std::optional<SlotBinding>& binding) {
+    return displayOf(binding, KeyNames());
+}
+
+InventoryDisplay displayOf(const std::optional<SlotBinding>& binding, const KeyNames& names) {
     InventoryDisplay shown{select, false};
     if (!binding) {
         return shown;
@@ -14,27 +18,30 @@ InventoryDisplay displayOf(const std::optional<SlotBinding>& binding) {
         fatalError(kIndexOutOfRange,
                    "inventory binding has " + std::to_string(binding->held) + " elements, needs 3");
     }
-    for (const auto& [code, label] : key_codes()) {
-        if (code == binding->key) {
-            shown.title = label;
-        }
+    if (std::optional<std::string> name = names.nameOf(binding->key)) {
+        shown.title = std::move(*name);
     }
     shown.shift = binding->modifier != kNoModifier;
     return shown;
 }
 
 std::int64_t triggerCodeOf(std::string_view title) {
-    std::int64_t code = kNoKey;
-    for (const auto& [keyCode, label] : key_codes()) {
-        if (label == title) {
-            code = keyCode;
-        }
-    }
-    return code;
+    return triggerCodeOf(title, KeyNames());
+}
+
+std::int64_t triggerCodeOf(std::string_view title, const KeyNames& names) {
+    // Names are unique, so the first match is the only one.
+    const std::optional<int> code = names.codeOf(title);
+    return code ? *code : kNoKey;
 }
 
 std::optional<SlotBinding> bindingFrom(std::int64_t editing, std::string_view title, bool shift) {
-    const std::int64_t key = triggerCodeOf(title);
+    return bindingFrom(editing, title, shift, KeyNames());
+}
+
+std::optional<SlotBinding> bindingFrom(std::int64_t editing, std::string_view title, bool shift,
+                                       const KeyNames& names) {
+    const std::int64_t key = triggerCodeOf(title, names);
     const std::int64_t modifier = shift ? kShiftModifier : kNoModifier;
     if (editing < 1 || editing > 6) {
         return std::nullopt;
@@ -63,6 +70,10 @@ bool neverTaps(const SlotBinding& binding) {
 } // namespace
 
 std::string slotTitle(int slot, const std::optional<SlotBinding>& binding) {
+    return slotTitle(slot, binding, KeyNames());
+}
+
+std::string slotTitle(int slot, const std::optional<SlotBinding>& binding, const KeyNames& names) {
     std::string title = "Slot " + std::to_string(slot) + "  ";
     if (!binding) {
         return title + "none";
@@ -70,7 +81,7 @@ std::string slotTitle(int slot, const std::optional<SlotBinding>& binding) {
     if (binding->isCutShort() || neverTaps(*binding)) {
         return title + "(damaged)";
     }
-    const InventoryDisplay shown = displayOf(binding);
+    const InventoryDisplay shown = displayOf(binding, names);
     if (shown.shift) {
         title += "Shift+";
     }

@@ -71,10 +71,19 @@ void InventoryRemapper::action(const std::optional<SlotBinding>& binding, int ke
     // Shift, 60, never stands for a left-Shift binding, 56).
     if (isFlag && flagHold == modifierOf(*binding) && keyPrss == keyOf(*binding)) {
         inventoryPress(binding->slot);
+        tapped(*binding);
     }
     // Without a modifier: fires on its key whatever is held. Made independently of the first.
     if (keyPrss == keyOf(*binding) && modifierOf(*binding) == 0) {
         inventoryPress(binding->slot);
+        tapped(*binding);
+    }
+}
+
+void InventoryRemapper::tapped(const SlotBinding& binding) {
+    // Told after the tap, and only of a slot that was tapped: reporting adds nothing before it.
+    if (tapListener_ != nullptr && keypadKeyOfSlot(binding.slot)) {
+        tapListener_->slotTapped({binding.slot, modifierOf(binding), keyOf(binding)});
     }
 }
 

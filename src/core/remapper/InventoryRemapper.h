@@ -3,6 +3,7 @@
 #include "core/bindings/InventoryBindings.h"
 #include "core/platform/FrontmostApplication.h"
 #include "core/platform/KeyPoster.h"
+#include "core/remapper/TapListener.h"
 
 #include <cstdint>
 #include <optional>
@@ -64,11 +65,18 @@ public:
     void keyboardKeyDown(std::uint16_t key);
     void keyboardKeyUp(std::uint16_t key);
 
+    // Told of every tap from now on, after its keypad key went out; null: nobody. It must
+    // outlive the remapper, or be unset first.
+    void setTapListener(TapListener* listener) { tapListener_ = listener; }
+
 private:
+    void tapped(const SlotBinding& binding);
+
     void followChatLine(int keyCode);
 
     InventoryBindings bindings_;
     KeyPoster& poster_;
+    TapListener* tapListener_ = nullptr;
 };
 
 } // namespace tarnic

@@ -13,6 +13,7 @@ Platform makeFakePlatform() {
     platform.frontmostApplication = std::make_unique<FakeFrontmostApplication>();
     platform.accessibilityTrust = std::move(trust);
     platform.frontmostWatcher = std::make_unique<FakeFrontmostWatcher>();
+    platform.keyLabels = std::make_unique<FakeKeyLabels>();
     return platform;
 }
 
@@ -25,6 +26,7 @@ FakeParts fakeParts(const Platform& platform) {
     parts.accessibilityTrust =
         dynamic_cast<FakeAccessibilityTrust*>(platform.accessibilityTrust.get());
     parts.frontmostWatcher = dynamic_cast<FakeFrontmostWatcher*>(platform.frontmostWatcher.get());
+    parts.keyLabels = dynamic_cast<FakeKeyLabels*>(platform.keyLabels.get());
     return parts;
 }
 

@@ -4,6 +4,7 @@
 #include "platform/fake/FakeAccessibilityTrust.h"
 #include "platform/fake/FakeFrontmostApplication.h"
 #include "platform/fake/FakeFrontmostWatcher.h"
+#include "platform/fake/FakeKeyLabels.h"
 #include "platform/fake/FakeKeyObserver.h"
 #include "platform/fake/RecordingKeyPoster.h"
 
@@ -17,10 +18,11 @@ struct FakeParts {
     FakeFrontmostApplication* frontmostApplication = nullptr;
     FakeAccessibilityTrust* accessibilityTrust = nullptr;
     FakeFrontmostWatcher* frontmostWatcher = nullptr;
+    FakeKeyLabels* keyLabels = nullptr;
 };
 
 // A platform made of the recording fakes: trusted, no application frontmost (nor announced),
-// nothing posted.
+// nothing posted, no keyboard layout known (US key names) until a test sets one.
 // Its key observer reports through the program's KeyGate, which asks this trust object.
 Platform makeFakePlatform();
 

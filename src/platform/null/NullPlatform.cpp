@@ -30,6 +30,13 @@ public:
     void takeInChanges() override {}
 };
 
+class NullKeyLabels : public KeyLabels {
+public:
+    std::optional<std::uint32_t> keysymAt(int) const override { return std::nullopt; }
+    // No layout is ever known, so none ever changes: the handler is not even kept.
+    void addChangeMonitor(Handler) override {}
+};
+
 class Untrusted : public AccessibilityTrust {
 public:
     bool isProcessTrusted() const override { return false; }
@@ -45,6 +52,7 @@ Platform makeNullPlatform() {
     platform.frontmostApplication = std::make_unique<NullFrontmostApplication>();
     platform.accessibilityTrust = std::make_unique<Untrusted>();
     platform.frontmostWatcher = std::make_unique<NullFrontmostWatcher>();
+    platform.keyLabels = std::make_unique<NullKeyLabels>();
     return platform;
 }
 

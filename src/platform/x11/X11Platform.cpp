@@ -4,6 +4,7 @@
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/X11FrontmostApplication.h"
 #include "platform/x11/X11FrontmostWatcher.h"
+#include "platform/x11/X11KeyLabels.h"
 #include "platform/x11/X11KeyObserver.h"
 #include "platform/x11/X11KeyPoster.h"
 #include "platform/x11/X11KeypadKeycodes.h"
@@ -39,6 +40,7 @@ std::optional<Platform> makeX11Platform(const char* displayName) {
     platform.accessibilityTrust =
         std::make_unique<x11::X11AccessibilityTrust>(recording, serverHasRecord);
     platform.frontmostWatcher = std::make_unique<x11::X11FrontmostWatcher>(connection);
+    platform.keyLabels = std::make_unique<x11::X11KeyLabels>(connection);
     return platform;
 }
 

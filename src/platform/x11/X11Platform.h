@@ -8,7 +8,8 @@ namespace tarnic {
 
 // The X11 backend: the key observer (RECORD), the key poster (XTest), the frontmost application
 // (_NET_ACTIVE_WINDOW and WM_CLASS, asked for, and followed through the root window's
-// property-change events) and the accessibility answer (whether recording started).
+// property-change events), the accessibility answer (whether recording started) and the keyboard
+// layout's symbols, for naming keys (XKB, followed through its notifications).
 //
 // Call it once, on the main thread, after the QGuiApplication (or QApplication) exists and
 // before its event loop runs. The backend opens two connections of its own to `displayName`
