@@ -1,7 +1,8 @@
-// The application as main starts it, for the start-up benchmark: the same QApplication setup and
-// the same Application on the platform of this display, with one addition, a quit once the
-// ability table's first paint has been handled. The version gate is left out (no site address):
-// it is a network check that runs after the window is up, and its answer is no part of start-up.
+// The application as main starts it, for the start-up benchmark: the same launch (the one-copy
+// check, the quit on signals, the application on the platform of this display), with one
+// addition, a quit once the ability table's first paint has been handled. The version gate is
+// left out (no site address): it is a network check that runs after the window is up, and its
+// answer is no part of start-up.
 //
 // Usage: bench_startup_app [--after-paint-work] [--slowed]
 //   By default the run ends at the painted table, before what the program keeps for after its
@@ -14,20 +15,14 @@
 
 #include "QuitAfterFirstPaint.h"
 
-#include "app/Application.h"
-#include "platform/select/MakePlatform.h"
+#include "app/Launch.h"
 
-#include <QApplication>
 #include <QTableView>
 
-#include <chrono>
 #include <cstring>
 #include <memory>
 
 int main(int argc, char* argv[]) {
-    QApplication qapp(argc, argv);
-    tarnic::setApplicationIdentity();
-
     bool afterPaintWork = false;
     bool slowed = false;
     for (int i = 1; i < argc; ++i) {
@@ -35,21 +30,25 @@ int main(int argc, char* argv[]) {
         slowed = slowed || std::strcmp(argv[i], "--slowed") == 0;
     }
 
-    tarnic::Application::Options options;
-    options.siteUrl.clear();
-    if (slowed) {
-        constexpr int kSlowdown = 100;
-        options.launchAtTheLatest *= kSlowdown;
-        options.gameDetectionInterval *= kSlowdown;
-    }
-    tarnic::Application app(tarnic::makePlatform(), options);
     std::unique_ptr<QObject> quit;
-    if (afterPaintWork) {
-        quit = std::make_unique<tarnic::bench::QuitAfterIcon>(app.window());
-    } else {
-        quit = std::make_unique<tarnic::bench::QuitAfterFirstPaint>(
-            *app.editor().tableView().viewport());
-    }
-    app.start();
-    return QApplication::exec();
+    tarnic::LaunchHooks hooks;
+    hooks.adjustOptions = [slowed](tarnic::Application::Options& options) {
+        options.siteUrl.clear();
+        if (slowed) {
+            constexpr int kSlowdown = 100;
+            options.launchAtTheLatest *= kSlowdown;
+            options.gameDetectionInterval *= kSlowdown;
+        }
+    };
+    hooks.beforeStart = [&quit, afterPaintWork](tarnic::Application& app) {
+        if (afterPaintWork) {
+            quit = std::make_unique<tarnic::bench::QuitAfterIcon>(app.window());
+        } else {
+            quit = std::make_unique<tarnic::bench::QuitAfterFirstPaint>(
+                *app.editor().tableView().viewport());
+        }
+    };
+    const int status = tarnic::launch(argc, argv, hooks);
+    quit.reset();
+    return status;
 }

@@ -11,7 +11,6 @@
 #include <QThread>
 #include <QTimer>
 
-#include <chrono>
 #include <mutex>
 
 namespace tarnic {
@@ -86,15 +85,6 @@ void Application::setKeyNames() {
     inventoryPanel_.setKeyNames(keyNames_->names());
 }
 
-void Application::showGameRunning() {
-    // The key thread may be handling a key: the remapper is read under its lock. Held much
-    // longer, the key thread waits for the main thread itself; this line waits for the next tick.
-    const std::unique_lock lock(remapperSession_.keyPathLock(), std::chrono::milliseconds(200));
-    if (lock.owns_lock()) {
-        inventoryPanel_.showGameRunning(remapperSession_.remapper().isWarRun);
-    }
-}
-
 void Application::windowWillClose() {
     // Queued: the loop ends after the event that asked for it has been handled.
     QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit,
@@ -127,8 +117,10 @@ void Application::start() {
     remapperSession_.installObservers();
     gameDetectionTimer_ = std::make_unique<GameDetectionTimer>(remapperSession_, nullptr,
                                                                options_.gameDetectionInterval);
-    QObject::connect(gameDetectionTimer_.get(), &GameDetectionTimer::ticked, &inventoryPanel_,
-                     [this] { showGameRunning(); });
+    // The tick reads whether the game runs under the key-path lock it takes anyway; a tick that
+    // had to be skipped leaves the line as it was.
+    QObject::connect(gameDetectionTimer_.get(), &GameDetectionTimer::gameLooked, &inventoryPanel_,
+                     &InventoryPanelController::showGameRunning);
     window_.show();
     // From now on closing the window ends the application.
     QObject::connect(&window_, &MainWindow::closing, &window_, &Application::windowWillClose);

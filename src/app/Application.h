@@ -88,8 +88,6 @@ private:
     AlertPresenter& alerts();
     // Hands the keys' names in the player's layout to the editor and the panel.
     void setKeyNames();
-    // Under the slots: whether the game detection found the game at its last look.
-    void showGameRunning();
 
     Options options_;
     // First: from here on a fatal error is also shown in a message box.

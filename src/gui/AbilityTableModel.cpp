@@ -27,6 +27,7 @@ void AbilityTableModel::setColumns(const QStringList& identifiers, const QString
         column.key = identifier.toStdString();
         column.isKey = column.key == def_hotkey || column.key == new_hotkey;
         column.isName = column.key == name_spell;
+        column.isNewKey = column.key == new_hotkey;
         columns_.push_back(std::move(column));
     }
     rows_ = static_cast<int>(list_.size());
@@ -116,22 +117,36 @@ int AbilityTableModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant AbilityTableModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) ||
-        static_cast<std::size_t>(index.row()) >= list_.size()) {
+    // Asked for every role of every cell the views measure or paint: the roles this model never
+    // answers leave first.
+    if (!index.isValid() || index.model() != this) {
         return {};
     }
-    const Column& column = columns_.at(static_cast<std::size_t>(index.column()));
-    if (column.key == new_hotkey && (role == Qt::DecorationRole || role == Qt::ToolTipRole)) {
-        return clashMark(index.row(), role);
-    }
-    if (role == Qt::TextAlignmentRole && column.isKey) {
-        return QVariant::fromValue(Qt::Alignment(Qt::AlignCenter));
-    }
-    if (role != Qt::DisplayRole && !(role == Qt::DecorationRole && column.isName)) {
+    const auto row = static_cast<std::size_t>(index.row());
+    const auto at = static_cast<std::size_t>(index.column());
+    if (row >= list_.size() || row >= static_cast<std::size_t>(rows_) || at >= columns_.size()) {
         return {};
     }
-    const std::string* value =
-        optionalField(list_[static_cast<std::size_t>(index.row())], column.key);
+    const Column& column = columns_[at];
+    switch (role) {
+    case Qt::DisplayRole:
+        break;
+    case Qt::DecorationRole:
+        if (column.isNewKey) {
+            return clashMark(index.row(), role);
+        }
+        if (!column.isName) {
+            return {};
+        }
+        break;
+    case Qt::ToolTipRole:
+        return column.isNewKey ? clashMark(index.row(), role) : QVariant();
+    case Qt::TextAlignmentRole:
+        return column.isKey ? QVariant::fromValue(Qt::Alignment(Qt::AlignCenter)) : QVariant();
+    default:
+        return {};
+    }
+    const std::string* value = optionalField(list_[row], column.key);
     if (value == nullptr) {
         return {};
     }

@@ -54,8 +54,9 @@ private:
     // What each column shows, worked out once: the delegate asks for a dozen roles per cell.
     struct Column {
         std::string key;
-        bool isKey = false;  // a hotkey: centred
-        bool isName = false; // the ability's name: with its picture
+        bool isKey = false;    // a hotkey: centred
+        bool isName = false;   // the ability's name: with its picture
+        bool isNewKey = false; // the chosen key: with the clash mark
     };
 
     const std::vector<AbilityRecord>& list_;

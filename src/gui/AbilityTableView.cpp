@@ -2,8 +2,10 @@
 
 #include <QHeaderView>
 #include <QAbstractItemDelegate>
+#include <QFontMetrics>
 
 #include <algorithm>
+#include <optional>
 
 namespace tarnic {
 
@@ -22,6 +24,27 @@ AbilityTableView::AbilityTableView(QWidget* parent) : QTableView(parent) {
 }
 
 void AbilityTableView::setModel(QAbstractItemModel* model) {
+    for (const QMetaObject::Connection& connection : std::as_const(modelConnections_)) {
+        disconnect(connection);
+    }
+    modelConnections_.clear();
+    forgetColumnHints();
+    if (model != nullptr) {
+        // Before the view's own connections: the header measures again from inside its handlers.
+        const auto forgetAll = [this] { forgetColumnHints(); };
+        modelConnections_ = {connect(model, &QAbstractItemModel::dataChanged, this,
+                                     [this](const QModelIndex& from, const QModelIndex& to) {
+                                         forgetColumnHints(from.column(), to.column());
+                                     }),
+                             connect(model, &QAbstractItemModel::modelReset, this, forgetAll),
+                             connect(model, &QAbstractItemModel::layoutChanged, this, forgetAll),
+                             connect(model, &QAbstractItemModel::rowsInserted, this, forgetAll),
+                             connect(model, &QAbstractItemModel::rowsRemoved, this, forgetAll),
+                             connect(model, &QAbstractItemModel::rowsMoved, this, forgetAll),
+                             connect(model, &QAbstractItemModel::columnsInserted, this, forgetAll),
+                             connect(model, &QAbstractItemModel::columnsRemoved, this, forgetAll),
+                             connect(model, &QAbstractItemModel::columnsMoved, this, forgetAll)};
+    }
     QTableView::setModel(model);
     // The first column (the ability) takes the room; the others fit their contents.
     QHeaderView* header = horizontalHeader();
@@ -33,6 +56,26 @@ void AbilityTableView::setModel(QAbstractItemModel* model) {
 }
 
 namespace {
+
+// The sum of the characters' own advances, each looked up once; nothing for a text with a
+// character from beyond the Latin, Greek and Cyrillic blocks or a combining mark, whose shaping
+// can change its width by more than kerning does.
+std::optional<int> summedAdvance(const QString& text, const QFontMetrics& metrics,
+                                 QHash<char16_t, int>& advances) {
+    int sum = 0;
+    for (const QChar c : text) {
+        const char16_t unit = c.unicode();
+        if ((unit >= 0x0300 && unit < 0x0370) || unit >= 0x0530) {
+            return std::nullopt;
+        }
+        auto found = advances.constFind(unit);
+        if (found == advances.constEnd()) {
+            found = advances.insert(unit, metrics.horizontalAdvance(c));
+        }
+        sum += found.value();
+    }
+    return sum;
+}
 
 // A cell whose width is its text's alone, for a given delegate and style.
 bool isPlainText(const QModelIndex& index) {
@@ -64,16 +107,51 @@ int AbilityTableView::sizeHintForColumn(int column) const {
         option.textElideMode, option.locale, option.direction};
     if (measuredIn_ != context) {
         measuredWidths_.clear();
+        columnHints_.clear();
         measuredIn_ = context;
     }
+    const int hiddenRows = verticalHeader()->hiddenSectionCount();
+    const auto kept = columnHints_.constFind(column);
+    if (kept != columnHints_.constEnd() && kept->rows == rows && kept->hiddenRows == hiddenRows) {
+        return kept->hint;
+    }
+    const int hint = measureColumn(column, option);
+    if (hint >= 0) {
+        columnHints_.insert(column, {hint, rows, hiddenRows});
+    }
+    return hint;
+}
+
+// The width of the column's widest cell, or -1 when QTableView must measure the column itself.
+// A plain-text cell's width is its text's shaped advance plus what the style adds around it, the
+// same for every such cell of the view. Shaping is the dear part, in the delegate's measure as in
+// the font's, so the texts are first sized by the sum of their characters' own advances, which
+// the font keeps, and only those that come near the widest are measured with the delegate.
+// Kerning and ligatures move a text's width away from that sum by a pixel or two per few
+// characters; the margin allows more than that. A text in a script that shapes its letters into
+// others is always measured.
+int AbilityTableView::measureColumn(int column, const QStyleOptionViewItem& option) const {
+    constexpr int kAdvanceMargin = 4;
+    const QAbstractItemModel* source = model();
+    const int rows = source->rowCount(rootIndex());
     int hint = 0;
+    // Plain texts not measured yet, by delegate, with their sum of advances and its margin.
+    struct Unmeasured {
+        QModelIndex index;
+        int advance = 0;
+        int margin = 0;
+    };
+    QHash<std::pair<const void*, QString>, Unmeasured> unmeasured;
+    int widestAdvance = 0;
+    const QFontMetrics metrics(option.font);
+    QHash<char16_t, int> characterAdvances;
     for (int row = 0; row < rows; ++row) {
         if (isRowHidden(row)) {
             continue;
         }
         const QModelIndex index = source->index(row, column, rootIndex());
         if (indexWidget(index) != nullptr || isPersistentEditorOpen(index)) {
-            // An editor's own size counts too; leave that to QTableView.
+            // An editor's own size counts too; leave that to QTableView, every time.
             return QTableView::sizeHintForColumn(column);
         }
         QAbstractItemDelegate* delegate = itemDelegateForIndex(index);
@@ -81,14 +159,44 @@ int AbilityTableView::sizeHintForColumn(int column) const {
             hint = std::max(hint, delegate->sizeHint(option, index).width());
             continue;
         }
-        const std::pair<const void*, QString> key(delegate, index.data(Qt::DisplayRole).toString());
-        auto width = measuredWidths_.constFind(key);
-        if (width == measuredWidths_.constEnd()) {
-            width = measuredWidths_.insert(key, delegate->sizeHint(option, index).width());
+        std::pair<const void*, QString> key(delegate, index.data(Qt::DisplayRole).toString());
+        const auto width = measuredWidths_.constFind(key);
+        if (width != measuredWidths_.constEnd()) {
+            hint = std::max(hint, width.value());
+        } else if (!unmeasured.contains(key)) {
+            const std::optional<int> advance =
+                summedAdvance(key.second, metrics, characterAdvances);
+            if (!advance) {
+                const int measured = delegate->sizeHint(option, index).width();
+                measuredWidths_.insert(key, measured);
+                hint = std::max(hint, measured);
+                continue;
+            }
+            const int margin = kAdvanceMargin + static_cast<int>(key.second.size()) / 3;
+            widestAdvance = std::max(widestAdvance, *advance - margin);
+            unmeasured.insert(std::move(key), {index, *advance, margin});
         }
-        hint = std::max(hint, width.value());
+    }
+    for (auto it = unmeasured.constBegin(); it != unmeasured.constEnd(); ++it) {
+        if (it->advance + it->margin < widestAdvance) {
+            continue;
+        }
+        const auto* delegate = static_cast<const QAbstractItemDelegate*>(it.key().first);
+        const int width = delegate->sizeHint(option, it->index).width();
+        measuredWidths_.insert(it.key(), width);
+        hint = std::max(hint, width);
     }
     return showGrid() ? hint + 1 : hint;
+}
+
+void AbilityTableView::forgetColumnHints(int first, int last) {
+    if (last < 0) {
+        columnHints_.clear();
+        return;
+    }
+    for (int column = first; column <= last; ++column) {
+        columnHints_.remove(column);
+    }
 }
 
 QItemSelectionModel::SelectionFlags AbilityTableView::selectionCommand(const QModelIndex& index,

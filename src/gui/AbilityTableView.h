@@ -29,7 +29,8 @@ protected:
     // on the delegate and style it is measured with, so each text is measured once and its width
     // kept until the font or style changes. Cells with a picture, a font, a check box or a size of
     // their own are measured one by one; so is a model with more rows than the header's resize
-    // precision, which QTableView samples.
+    // precision, which QTableView samples. A column's result is kept until the model says that
+    // the column's cells, or the rows, changed: the header asks again at every layout pass.
     int sizeHintForColumn(int column) const override;
 
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
@@ -47,8 +48,20 @@ private:
         Qt::LayoutDirection direction = Qt::LeftToRight;
         bool operator==(const MeasureContext&) const = default;
     };
+    int measureColumn(int column, const QStyleOptionViewItem& option) const;
+    // Forgets the kept results of columns first..last (all of them by default).
+    void forgetColumnHints(int first = 0, int last = -1);
+
     mutable std::optional<MeasureContext> measuredIn_;
     mutable QHash<std::pair<const void*, QString>, int> measuredWidths_;
+    // Per column: the result, and the rows and hidden rows it was found for.
+    struct ColumnHint {
+        int hint = 0;
+        int rows = 0;
+        int hiddenRows = 0;
+    };
+    mutable QHash<int, ColumnHint> columnHints_;
+    QList<QMetaObject::Connection> modelConnections_;
 };
 
 // Selects exactly `row`, replacing the selection; whoever watches the selection hears of it once.

@@ -44,6 +44,12 @@ void EditorController::viewDidLoad() {
         keys.addItem(toQString(title));
     }
 
+    // A stored list takes the catalogue's place before the table has a model: the table then
+    // lays out and measures its rows once.
+    if (std::optional<std::vector<AbilityRecord>> stored = defaults_.mainDic()) {
+        mainDic_ = std::move(*stored);
+    }
+
     // The controller is the table's data source and delegate. The columns belong to the
     // window: it names them, as record keys, in the table's properties.
     QTableView& table = tableView();
@@ -53,10 +59,6 @@ void EditorController::viewDidLoad() {
     connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &EditorController::tableViewSelectionDidChange);
 
-    if (std::optional<std::vector<AbilityRecord>> stored = defaults_.mainDic()) {
-        mainDic_ = std::move(*stored);
-        reloadData();
-    }
     storeMainDic();
 
     selectRow(tableView(), 0);
@@ -150,7 +152,7 @@ void EditorController::setGridFollowsKeyboard() {
 
 void EditorController::storeMainDic() {
     // An unchanged list is not written again: that would only cost flushes to disk at every start.
-    handedDic_ = mainDic_;
+    handedDic_ = std::make_shared<const std::vector<AbilityRecord>>(mainDic_);
     storeWritten(defaults_.setMainDicIfChanged(mainDic_));
 }
 
@@ -167,7 +169,7 @@ void EditorController::storeWritten(bool written) {
 void EditorController::showModified() {
     // A key set by hand lives in memory only; the title says so until the list is stored.
     if (QWidget* window = tableView().window()) {
-        window->setWindowModified(mainDic_ != storedDic_);
+        window->setWindowModified(mainDic_ != *storedDic_);
     }
 }
 

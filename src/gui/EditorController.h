@@ -15,6 +15,7 @@
 #include <QSettings>
 #include <QTableView>
 
+#include <memory>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -101,8 +102,10 @@ private:
     UserDefaults defaults_;
     // What the store file holds under "mainDic", as last written, and the list last handed to the
     // store (the same unless a write failed).
-    std::vector<AbilityRecord> storedDic_;
-    std::vector<AbilityRecord> handedDic_;
+    // Shared, as they are mostly the same list: one copy per hand-over, none per write.
+    std::shared_ptr<const std::vector<AbilityRecord>> storedDic_ =
+        std::make_shared<const std::vector<AbilityRecord>>();
+    std::shared_ptr<const std::vector<AbilityRecord>> handedDic_ = storedDic_;
     AbilityTableModel tableModel_;
     EditorOutlets outlets_;
     std::optional<ProgramOptions> options_;

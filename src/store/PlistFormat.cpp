@@ -23,8 +23,12 @@ namespace {
 // all, before libplist, whose tree is built and freed by recursion, ever sees it.
 constexpr int kDeepestStore = 16;
 
+bool isBinaryPlist(std::string_view bytes) {
+    return bytes.starts_with("bplist00");
+}
+
 bool nestsWithinBounds(std::string_view bytes) {
-    if (bytes.starts_with("bplist00")) {
+    if (isBinaryPlist(bytes)) {
         // Each object a walk can reach costs at least one byte of references, unless objects
         // that hold others are shared, which no writer of property lists does.
         return binaryPlistNestsWithin(bytes, kDeepestStore, bytes.size());
@@ -75,14 +79,20 @@ std::optional<QSettings::SettingsMap> settingsFromPlist(const QByteArray& bytes)
     if (bytes.isEmpty() || bytes.size() > std::numeric_limits<std::uint32_t>::max()) {
         return std::nullopt;
     }
-    if (!nestsWithinBounds(
-            std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())))) {
+    const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    if (!nestsWithinBounds(text)) {
         return std::nullopt;
     }
     plist_t parsed = nullptr;
     plist_from_memory(bytes.constData(), static_cast<std::uint32_t>(bytes.size()), &parsed);
     PlistPtr root(parsed);
-    if (!root || plist_get_node_type(root.get()) != PLIST_DICT || !keysAreReadable(root.get())) {
+    if (!root || plist_get_node_type(root.get()) != PLIST_DICT) {
+        return std::nullopt;
+    }
+    // Only a binary list can hand libplist a key with a NUL inside: its XML reader refuses a NUL
+    // written as a character reference and ends a key at a NUL byte. The check writes every key
+    // out again, which is worth skipping for the program's own store, always XML.
+    if (isBinaryPlist(text) && !keysAreReadable(root.get())) {
         return std::nullopt;
     }
     return variantFromPlist(root.get()).toMap();

@@ -230,6 +230,15 @@ TEST_F(AbilityTable, ColumnsFitTheirContentsAsEveryRowMeasuredWould) {
     list[5][new_hotkey] = "Shift+Num 7";
     model.reload();
     expectSameWidths("a new text");
+    // A column's width is kept between layout passes, until its cells change.
+    list[6][name_parent] = "An owner whose name is longer than any other owner's";
+    const int owners = table.measured(1);
+    model.rowChanged(6);
+    EXPECT_GT(table.measured(1), owners);
+    expectSameWidths("one row's new text");
+    list.pop_back();
+    model.reload();
+    expectSameWidths("one row fewer");
     QFont larger = table.font();
     larger.setPointSize(larger.pointSize() + 6);
     const int before = table.measured(1);

@@ -55,6 +55,18 @@ TEST_F(GameDetectionTimerTest, EachTickRefreshesTheGameFlag) {
     EXPECT_EQ(fakes.frontmostApplication->queryCount(), 2U);
 }
 
+TEST_F(GameDetectionTimerTest, EachTickSaysWhetherTheGameRuns) {
+    fakes.frontmostApplication->setBundleIdentifier("com.blizzard.WarcraftIII");
+    GameDetectionTimer timer(session, nullptr, kTestInterval);
+    QSignalSpy looks(&timer, &GameDetectionTimer::gameLooked);
+    ASSERT_TRUE(looks.wait(kTickWaitMs));
+    EXPECT_EQ(looks.takeFirst().at(0).toBool(), true);
+
+    fakes.frontmostApplication->setBundleIdentifier(std::nullopt);
+    ASSERT_TRUE(looks.wait(kTickWaitMs));
+    EXPECT_EQ(looks.takeLast().at(0).toBool(), false);
+}
+
 TEST_F(GameDetectionTimerTest, StopsWithItsOwner) {
     auto* owner = new QObject;
     auto* timer = new GameDetectionTimer(session, owner);

@@ -4,7 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <future>
 #include <memory>
+#include <optional>
+#include <thread>
 
 namespace tarnic {
 namespace {
@@ -48,9 +51,32 @@ TEST(RemapperSession, TickAsksThePlatformForTheFrontmostApplication) {
     RemapperSession session(platform);
     fakes.frontmostApplication->setBundleIdentifier("com.blizzard.WarcraftIII");
     EXPECT_FALSE(session.remapper().isWarRun);
-    session.eventWithTimer();
+    EXPECT_EQ(session.eventWithTimer(), std::optional<bool>(true));
     EXPECT_TRUE(session.remapper().isWarRun);
     EXPECT_EQ(fakes.frontmostApplication->queryCount(), 1U);
+}
+
+TEST(RemapperSession, ATickThatCannotTakeTheKeyPathSkipsAndSaysSo) {
+    Platform platform = makeFakePlatform();
+    const FakeParts fakes = fakeParts(platform);
+    RemapperSession session(platform);
+    fakes.frontmostApplication->setBundleIdentifier("com.blizzard.WarcraftIII");
+    std::optional<bool> seen = false;
+    // Another thread holds the lock, as the key thread does while it shows a fatal error.
+    std::promise<void> held;
+    std::promise<void> release;
+    std::thread holder([&] {
+        const std::lock_guard lock(session.keyPathLock());
+        held.set_value();
+        release.get_future().wait();
+    });
+    held.get_future().wait();
+    seen = session.eventWithTimer();
+    release.set_value();
+    holder.join();
+    EXPECT_EQ(seen, std::nullopt);
+    EXPECT_FALSE(session.remapper().isWarRun);
+    EXPECT_EQ(fakes.frontmostApplication->queryCount(), 0U);
 }
 
 TEST(RemapperSession, NewBindingsTakeEffectAtTheNextPress) {

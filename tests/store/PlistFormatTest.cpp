@@ -211,5 +211,21 @@ TEST(PlistFormat, ABinaryKeyHoldingANulByteReadsAsNothing) {
     EXPECT_FALSE(settingsFromPlist(binaryPlistWithKey(QString(QChar(0)))).has_value());
 }
 
+// Only binary lists are checked key by key for a NUL: an XML list cannot bring one in. A NUL
+// written as a character reference makes no list at all, and a NUL byte ends the key.
+TEST(PlistFormat, AnXmlKeyCannotHoldANulByte) {
+    EXPECT_FALSE(settingsFromPlist(plistXml("<dict><key>a&#0;b</key><string>x</string></dict>"))
+                     .has_value());
+    EXPECT_FALSE(settingsFromPlist(plistXml("<dict><key>a&#x0;b</key><string>x</string></dict>"))
+                     .has_value());
+    QByteArray withNul = plistXml("<dict><key>a-b</key><string>x</string></dict>");
+    withNul[withNul.indexOf("a-b") + 1] = '\0';
+    const std::optional<QSettings::SettingsMap> read = settingsFromPlist(withNul);
+    ASSERT_TRUE(read.has_value());
+    ASSERT_EQ(read->size(), 1);
+    EXPECT_FALSE(read->firstKey().contains(QChar(0)));
+    EXPECT_EQ(read->firstKey(), QStringLiteral("a"));
+}
+
 } // namespace
 } // namespace tarnic

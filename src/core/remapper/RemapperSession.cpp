@@ -62,14 +62,15 @@ void RemapperSession::setBindings(const InventoryBindings& bindings) {
     remapper_->setBindings(bindings);
 }
 
-void RemapperSession::eventWithTimer() {
+std::optional<bool> RemapperSession::eventWithTimer() {
     // A key holds the lock for microseconds. Much longer, and the key thread is waiting for the
     // main thread itself (to show a fatal error): this tick is skipped, the next comes soon.
     const std::unique_lock lock(*platform_.keyPath, std::chrono::milliseconds(200));
     if (!lock.owns_lock()) {
-        return;
+        return std::nullopt;
     }
     remapper_->eventWithTimer(*platform_.frontmostApplication);
+    return remapper_->isWarRun;
 }
 
 } // namespace tarnic

@@ -4,6 +4,7 @@
 #include "core/remapper/InventoryRemapper.h"
 
 #include <memory>
+#include <optional>
 
 namespace tarnic {
 
@@ -38,8 +39,10 @@ public:
     // key being handled on the key thread sees the old ones or the new ones, whole.
     void setBindings(const InventoryBindings& bindings);
 
-    // The game-detection tick: refreshes isWarRun from the frontmost application.
-    void eventWithTimer();
+    // The game-detection tick: refreshes isWarRun from the frontmost application and returns it,
+    // read under the same lock; nothing when the tick was skipped (the key thread held the lock
+    // too long).
+    std::optional<bool> eventWithTimer();
 
     // The platform's key-path lock: the remapper's state may be read or changed only while it is
     // held, as the key thread handles keys meanwhile.

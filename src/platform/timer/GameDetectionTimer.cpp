@@ -16,7 +16,9 @@ GameDetectionTimer::GameDetectionTimer(RemapperSession& session, QObject* parent
 }
 
 void GameDetectionTimer::eventWithTimer() {
-    session_.eventWithTimer();
+    if (const std::optional<bool> running = session_.eventWithTimer()) {
+        emit gameLooked(*running);
+    }
     emit ticked();
 }
 

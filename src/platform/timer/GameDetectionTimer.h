@@ -29,6 +29,8 @@ public:
 signals:
     // After each tick, once the session has been told.
     void ticked();
+    // After each tick that the session took, with whether the game was found.
+    void gameLooked(bool running);
 
 private:
     void eventWithTimer();
