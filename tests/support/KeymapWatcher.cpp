@@ -108,9 +108,9 @@ std::vector<unsigned long> KeymapWatcher::keyTypes() {
         result.insert(result.end(), {type.name, type.num_levels, type.mods.mask,
                                      type.mods.real_mods, type.mods.vmods, type.map_count});
         for (int e = 0; e < type.map_count; ++e) {
-            result.insert(result.end(), {static_cast<unsigned long>(type.map[e].active),
-                                         type.map[e].level, type.map[e].mods.mask,
-                                         type.map[e].mods.vmods});
+            result.insert(result.end(),
+                          {static_cast<unsigned long>(type.map[e].active), type.map[e].level,
+                           type.map[e].mods.mask, type.map[e].mods.vmods});
             if (type.preserve != nullptr) {
                 result.insert(result.end(), {type.preserve[e].mask, type.preserve[e].vmods});
             }
