@@ -156,4 +156,9 @@ void KeymapWatcher::turnRepeatOffForEveryKey() {
     XSync(display_, False);
 }
 
+void KeymapWatcher::turnMouseKeysOn() {
+    XkbChangeEnabledControls(display_, XkbUseCoreKbd, XkbMouseKeysMask, XkbMouseKeysMask);
+    XSync(display_, False);
+}
+
 } // namespace tarnic::test

@@ -45,6 +45,8 @@ public:
     // Turns the per-key repeat off for every key: a state that recomputing the keys from the
     // compatibility map would undo.
     void turnRepeatOffForEveryKey();
+    // Turns MouseKeys on: keys whose action moves the pointer do that instead of typing.
+    void turnMouseKeysOn();
 
 private:
     _XDisplay* display_;

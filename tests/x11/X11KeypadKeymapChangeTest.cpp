@@ -5,7 +5,10 @@
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/X11KeypadKeycodes.h"
 #include "support/KeymapProbe.h"
+#include "support/KeyLogWaits.h"
 #include "support/KeymapWatcher.h"
+#include "support/LineProcess.h"
+#include "support/XTestDriver.h"
 #include "support/XvfbSession.h"
 
 #include <QProcess>
@@ -13,6 +16,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <csignal>
 #include <optional>
 #include <set>
 #include <thread>
@@ -24,10 +28,13 @@ using test::KeymapNotifications;
 using test::KeymapProbe;
 using test::KeymapWatcher;
 using test::kSlotKeypadKeysyms;
+using test::LineProcess;
+using test::XTestDriver;
 using test::XvfbSession;
 using x11::X11Connection;
 using x11::X11KeypadKeycodes;
 
+using namespace std::chrono_literals;
 using Keys = std::map<unsigned, std::vector<unsigned long>>;
 
 constexpr unsigned long kSomeKeysym = 0x1008ff40; // XF86Launch0
@@ -179,6 +186,83 @@ INSTANTIATE_TEST_SUITE_P(Layouts, X11KeypadKeymapChangeTest, ::testing::Values("
                          [](const ::testing::TestParamInfo<const char*>& info) {
                              return std::string(info.param);
                          });
+
+// The claimed keycodes carry no key action: with MouseKeys on (the keypad moving the pointer), a
+// tap on one still arrives as its keypad digit.
+TEST(X11KeypadKeymapChangeMouseKeys, TapsOnClaimedKeycodesArriveWithMouseKeysOn) {
+    XvfbSession server{false};
+    ASSERT_TRUE(server.ok()) << server.error().toStdString();
+    XTestDriver driver{server.display()};
+    KeymapWatcher watcher{server.display()};
+    ASSERT_TRUE(driver.ok());
+    ASSERT_TRUE(watcher.ok());
+    const QByteArray name = server.display().toLocal8Bit();
+    std::shared_ptr<X11Connection> connection = X11Connection::open(name.constData());
+    ASSERT_TRUE(connection);
+    X11KeypadKeycodes keypad(connection);
+    ASSERT_NE(keypad.keycodes()[0], 0u);
+
+    LineProcess log;
+    ASSERT_NE(test::startKeyLog(log, TARNIC_KEYLOG_PATH, {}, server, driver), 0u);
+    watcher.turnMouseKeysOn();
+    for (const unsigned keycode : keypad.keycodes()) {
+        const int from = static_cast<int>(log.lines().size());
+        driver.tap(keycode);
+        const int down = test::waitForKey(log, true, keycode, from);
+        EXPECT_GE(down, 0) << "keycode " << keycode << ": " << log.transcript().toStdString();
+    }
+}
+
+// A process whose Xlib does not use XKB (XKB_DISABLE, as on a server without the extension)
+// claims and gives back with core requests: one per run of consecutive keycodes.
+TEST(X11KeypadKeymapChangeWithoutXkb, CoreRequestsClaimAndGiveBackTheSameKeycodes) {
+    XvfbSession server{false};
+    ASSERT_TRUE(server.ok()) << server.error().toStdString();
+    KeymapProbe probe{server.display()};
+    KeymapWatcher watcher{server.display()};
+    ASSERT_TRUE(probe.ok());
+    ASSERT_TRUE(watcher.ok());
+    const unsigned scratch = probe.unusedKeycodes().front();
+    probe.setKeysyms(scratch, {kSomeKeysym});
+    const KeymapNotifications one = watcher.take();
+    probe.setKeysyms(scratch, {});
+    watcher.take();
+    const Keys before = watcher.keys();
+
+    QProcessEnvironment environment = server.environment();
+    environment.insert("XKB_DISABLE", "1");
+    LineProcess harness;
+    ASSERT_TRUE(harness.start(TARNIC_HARNESS_PATH, {"--quiet"}, environment));
+    ASSERT_GE(harness.waitForPrefix("ready ", 0, 20s), 0) << harness.transcript().toStdString();
+    const std::vector<unsigned> own = probe.recordedKeycodes();
+    ASSERT_EQ(own.size(), 6u);
+    for (std::size_t i = 0; i < own.size(); ++i) {
+        EXPECT_EQ(probe.keycodesWithOnly(kSlotKeypadKeysyms[i]), std::vector<unsigned>{own[i]});
+    }
+    std::vector<unsigned> sorted = own;
+    std::sort(sorted.begin(), sorted.end());
+    int runs = 1;
+    for (std::size_t i = 1; i < sorted.size(); ++i) {
+        runs += sorted[i] == sorted[i - 1] + 1 ? 0 : 1;
+    }
+    const KeymapNotifications claim = watcher.take();
+    EXPECT_EQ(claim.xkbMapNotify, runs * one.xkbMapNotify) << printable(claim);
+    EXPECT_EQ(claim.coreMappingNotify, runs * one.coreMappingNotify) << printable(claim);
+
+    ASSERT_EQ(kill(static_cast<pid_t>(harness.processId()), SIGTERM), 0);
+    ASSERT_TRUE(harness.waitForExit(20s));
+    EXPECT_TRUE(harness.exitedNormally());
+    EXPECT_TRUE(probe.recordedKeycodes().empty());
+    const Keys after = watcher.keys();
+    ASSERT_EQ(after.size(), before.size());
+    for (const auto& [keycode, key] : before) {
+        if (std::find(own.begin(), own.end(), keycode) == own.end()) {
+            EXPECT_EQ(after.at(keycode), key) << "keycode " << keycode;
+        } else {
+            EXPECT_TRUE(probe.keysymsOf(keycode).empty()) << "keycode " << keycode;
+        }
+    }
+}
 
 } // namespace
 } // namespace tarnic

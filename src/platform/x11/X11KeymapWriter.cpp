@@ -23,17 +23,18 @@ struct ServerSpan {
     KeySymSpan span;
 };
 
-// The server's key sym entries from `first` to `last`; none when XKB gives no map, the keycodes
-// lie outside its range or its first key type is not the one-level type it has to be.
+// The server's key sym entries from `first` to `last`; none when XKB gives no map or the keycodes
+// lie outside its range. Key types are not read: XKB keeps its canonical one-level type first
+// (index 0), and a server that did not would refuse the request, leaving the core requests to do
+// it.
 std::optional<ServerSpan> readSpan(Display* display, unsigned first, unsigned last) {
-    XkbDescPtr xkb = XkbGetMap(display, XkbKeyTypesMask | XkbKeySymsMask, XkbUseCoreKbd);
+    XkbDescPtr xkb = XkbGetMap(display, XkbKeySymsMask, XkbUseCoreKbd);
     if (xkb == nullptr) {
         return std::nullopt;
     }
     std::optional<ServerSpan> result;
-    if (xkb->map != nullptr && xkb->map->key_sym_map != nullptr && xkb->map->num_types > 0 &&
-        xkb->map->types[0].num_levels == 1 && first <= last && first >= xkb->min_key_code &&
-        last <= xkb->max_key_code) {
+    if (xkb->map != nullptr && xkb->map->key_sym_map != nullptr && first <= last &&
+        first >= xkb->min_key_code && last <= xkb->max_key_code) {
         result.emplace();
         result->minKeycode = xkb->min_key_code;
         result->maxKeycode = xkb->max_key_code;
