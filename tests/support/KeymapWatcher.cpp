@@ -2,6 +2,7 @@
 
 #include <X11/XKBlib.h>
 #include <X11/Xlib.h>
+#include <X11/extensions/XInput2.h>
 
 #include <cstring>
 
@@ -49,9 +50,10 @@ KeymapNotifications KeymapWatcher::take() {
     return seen;
 }
 
-std::map<unsigned, std::vector<unsigned long>> KeymapWatcher::keys() {
+std::map<unsigned, std::vector<unsigned long>> KeymapWatcher::keys(int device) {
     std::map<unsigned, std::vector<unsigned long>> result;
-    XkbDescPtr xkb = XkbGetMap(display_, XkbAllMapComponentsMask, XkbUseCoreKbd);
+    XkbDescPtr xkb = XkbGetMap(display_, XkbAllMapComponentsMask,
+                               device < 0 ? XkbUseCoreKbd : static_cast<unsigned>(device));
     if (xkb == nullptr) {
         return result;
     }
@@ -95,6 +97,28 @@ std::map<unsigned, std::vector<unsigned long>> KeymapWatcher::keys() {
     }
     XkbFreeKeyboard(xkb, 0, True);
     return result;
+}
+
+std::vector<int> KeymapWatcher::attachedKeyboards() {
+    std::vector<int> devices;
+    int count = 0;
+    XIDeviceInfo* info = XIQueryDevice(display_, XIAllDevices, &count);
+    if (info == nullptr) {
+        return devices;
+    }
+    int master = -1;
+    for (int i = 0; i < count; ++i) {
+        if (info[i].use == XIMasterKeyboard) {
+            master = info[i].deviceid;
+        }
+    }
+    for (int i = 0; i < count; ++i) {
+        if (info[i].use == XISlaveKeyboard && info[i].attachment == master) {
+            devices.push_back(info[i].deviceid);
+        }
+    }
+    XIFreeDeviceInfo(info);
+    return devices;
 }
 
 std::vector<unsigned long> KeymapWatcher::keyTypes() {

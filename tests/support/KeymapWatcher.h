@@ -36,7 +36,10 @@ public:
     // Every keycode as the server holds it, as numbers: the core mapping's row, then XKB's key
     // types, group information, width and keysyms, the key actions (raw bytes), the behaviour,
     // the explicit components, the real and virtual modifier maps and the per-key repeat.
-    std::map<unsigned, std::vector<unsigned long>> keys();
+    // `device` is an input device id; by default the core keyboard.
+    std::map<unsigned, std::vector<unsigned long>> keys(int device = -1);
+    // The ids of the keyboards attached to the core keyboard (XTest's, the server's own).
+    std::vector<int> attachedKeyboards();
     // The key type definitions: levels, modifiers, map entries and preserve, type after type.
     std::vector<unsigned long> keyTypes();
     // Keycodes that have at least one key action that is not "no action".

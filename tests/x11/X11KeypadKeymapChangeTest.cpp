@@ -102,6 +102,20 @@ TEST_P(X11KeypadKeymapChangeTest, ClaimAndReleaseAreOneChangeEachAndLeaveEveryOt
     const Keys before = watcher.keys();
     const std::vector<unsigned long> typesBefore = watcher.keyTypes();
     ASSERT_FALSE(before.empty());
+    // The change reaches every keyboard attached to the core one: each keeps its own keys.
+    const std::vector<int> devices = watcher.attachedKeyboards();
+    EXPECT_GE(devices.size(), 2u) << "XTest's keyboard and the server's own";
+    std::map<int, Keys> devicesBefore;
+    for (const int device : devices) {
+        devicesBefore[device] = watcher.keys(device);
+    }
+    const auto expectDevicesSameExcept = [&](const std::vector<unsigned>& except,
+                                             const char* when) {
+        for (const int device : devices) {
+            SCOPED_TRACE("device " + std::to_string(device));
+            expectSameExcept(devicesBefore[device], watcher.keys(device), except, when);
+        }
+    };
 
     std::vector<unsigned> own;
     {
@@ -126,12 +140,20 @@ TEST_P(X11KeypadKeymapChangeTest, ClaimAndReleaseAreOneChangeEachAndLeaveEveryOt
             EXPECT_EQ(std::count(withActions.begin(), withActions.end(), keycode), 0) << keycode;
         }
         expectSameExcept(before, watcher.keys(), own, "claimed");
+        expectDevicesSameExcept(own, "claimed");
+        for (const int device : devices) {
+            for (std::size_t i = 0; i < own.size(); ++i) {
+                EXPECT_EQ(watcher.keys(device).at(own[i]), watcher.keys().at(own[i]))
+                    << "device " << device << ", keycode " << own[i];
+            }
+        }
         EXPECT_EQ(watcher.keyTypes(), typesBefore);
     }
     const KeymapNotifications release = watcher.take();
     EXPECT_EQ(release, one) << "release: " << printable(release);
     const Keys after = watcher.keys();
     expectSameExcept(before, after, own, "released");
+    expectDevicesSameExcept(own, "released");
     EXPECT_EQ(watcher.keyTypes(), typesBefore);
     for (const unsigned keycode : own) {
         EXPECT_TRUE(probe.keysymsOf(keycode).empty()) << keycode;

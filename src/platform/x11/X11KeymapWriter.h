@@ -19,6 +19,10 @@ class X11Connection;
 // the per-key repeat of every key stay as they are. Our keycodes thus get no key action (a plain
 // key, so a tap stays a keypad digit even with MouseKeys on).
 //
+// The server applies it to the core keyboard and to every keyboard attached to it, as it does a
+// core request; they normally share one keymap (setxkbmap gives it to them all). One that held
+// other keys than the core keyboard inside the span would get the core keyboard's there.
+//
 // Without XKB on the server, or if it refuses the request (it checks every keyboard before it
 // changes any), core requests do it, one per run of consecutive keycodes.
 //
