@@ -102,6 +102,15 @@ std::vector<unsigned> KeymapProbe::recordedKeycodes() {
     return keycodes;
 }
 
+void KeymapProbe::setRecordedKeycodes(const std::vector<unsigned>& keycodes) {
+    const Atom property = XInternAtom(display_, "_TARNIC_PRO_KEYPAD_KEYCODES", False);
+    std::vector<long> values(keycodes.begin(), keycodes.end());
+    XChangeProperty(display_, DefaultRootWindow(display_), property, XA_CARDINAL, 32,
+                    PropModeReplace, reinterpret_cast<const unsigned char*>(values.data()),
+                    static_cast<int>(values.size()));
+    XSync(display_, False);
+}
+
 void KeymapProbe::watchLockedModifiers() {
     XkbSelectEventDetails(display_, XkbUseCoreKbd, XkbStateNotify, XkbAllStateComponentsMask,
                           XkbModifierLockMask);

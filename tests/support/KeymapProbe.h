@@ -40,6 +40,8 @@ public:
     // The backend's record of its keycodes on the root window, in slot order; empty when there
     // is none.
     std::vector<unsigned> recordedKeycodes();
+    // Writes that record, as a run killed while holding these keycodes leaves it.
+    void setRecordedKeycodes(const std::vector<unsigned>& keycodes);
 
     // From now on, counts every change of the locked modifiers (Num Lock, Caps Lock) on the
     // server, whoever makes it.

@@ -4,6 +4,7 @@
 #include "platform/x11/X11EventPump.h"
 #include "core/remapper/SlotKeys.h"
 #include "platform/x11/KeypadClaimPlanner.h"
+#include "platform/x11/X11KeymapWriter.h"
 
 #include <X11/XKBlib.h>
 #include <X11/Xatom.h>
@@ -87,28 +88,6 @@ void writeRecord(Display* display, Atom property, const SlotKeycodes& keycodes) 
                     static_cast<int>(values.size()));
 }
 
-// Gives each keycode its keysym, one request per run of consecutive keycodes: every request
-// makes every client of the display reread its keymap.
-void mapKeycodes(Display* display, std::vector<KeycodeMapping> mappings) {
-    std::sort(
-        mappings.begin(), mappings.end(),
-        [](const KeycodeMapping& a, const KeycodeMapping& b) { return a.keycode < b.keycode; });
-    std::size_t start = 0;
-    while (start < mappings.size()) {
-        std::size_t end = start + 1;
-        while (end < mappings.size() && mappings[end].keycode == mappings[end - 1].keycode + 1) {
-            ++end;
-        }
-        std::vector<KeySym> syms;
-        for (std::size_t i = start; i < end; ++i) {
-            syms.push_back(mappings[i].keysym);
-        }
-        XChangeKeyboardMapping(display, static_cast<int>(mappings[start].keycode), 1, syms.data(),
-                               static_cast<int>(syms.size()));
-        start = end;
-    }
-}
-
 } // namespace
 
 X11KeypadKeycodes::X11KeypadKeycodes(std::shared_ptr<X11Connection> connection)
@@ -121,6 +100,7 @@ X11KeypadKeycodes::X11KeypadKeycodes(std::shared_ptr<X11Connection> connection)
     int major = XkbMajorVersion;
     int minor = XkbMinorVersion;
     if (XkbQueryExtension(display, &opcode, &eventBase, &errorBase, &major, &minor)) {
+        xkbOpcode_ = opcode;
         xkbEventBase_ = eventBase;
         const unsigned long events = XkbNewKeyboardNotifyMask | XkbMapNotifyMask;
         XkbSelectEvents(display, XkbUseCoreKbd, events, events);
@@ -205,7 +185,7 @@ void X11KeypadKeycodes::claim() {
     if (plan.keycodes != recorded) {
         writeRecord(display, propertyAtom_, plan.keycodes);
     }
-    mapKeycodes(display, changes);
+    writeKeycodeMappings(*connection_, xkbOpcode_, changes);
     XUngrabServer(display);
     keycodes_ = plan.keycodes;
 
@@ -237,7 +217,7 @@ void X11KeypadKeycodes::release() {
         cleared.push_back({keycode, kNoSymbol});
     }
     writeRecord(display, propertyAtom_, plan.record);
-    mapKeycodes(display, cleared);
+    writeKeycodeMappings(*connection_, xkbOpcode_, cleared);
     XUngrabServer(display);
     XSync(display, False);
     keycodes_ = {};

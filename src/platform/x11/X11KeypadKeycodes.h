@@ -30,8 +30,11 @@ class X11Connection;
 // property alone could be stale (a new keymap may since have put a key there); the keysym alone
 // could be a mapping the player made himself (xmodmap "keycode 250 = KP_7"), which we must not
 // take away. Claims and releases are read-modify-write of the server's keymap and the property,
-// made under a server grab so that two instances never interleave. Two instances on one display
-// share the same keycodes; the first to end clears them and the other claims again at once.
+// made under a server grab so that two instances never interleave. Each claim, release or
+// clearing of leftovers is one request to the server, however scattered the keycodes (see
+// writeKeycodeMappings): every keymap change costs every client of the display a rebuild. Two
+// instances on one display share the same keycodes; the first to end clears them and the other
+// claims again at once.
 //
 // The keymap can change under us (setxkbmap, a new keyboard, XWayland reloading the compositor's
 // keymap). The main connection listens for XKB's map and new-keyboard notifications and the core
@@ -75,6 +78,7 @@ private:
 
     std::shared_ptr<X11Connection> connection_;
     std::array<unsigned, 6> keycodes_{};
+    int xkbOpcode_ = -1;
     int xkbEventBase_ = -1;
     unsigned long propertyAtom_ = 0;
     bool fallbackReported_ = false;
