@@ -13,7 +13,7 @@ class SiteModule {
 public:
     // Where the module is: beside the program (the build tree), then in the program's folder
     // under the library folder, found from the program's own folder so that any install prefix
-    // works (/usr/bin/../lib/tarnic-pro/tarnic-pro-site.so for the Debian package).
+    // works (/usr/bin/../lib/tarnic-pro/modules/tarnic-pro-site.so for the Debian package).
     static QStringList defaultPaths();
 
     // The module's get function from the first of `paths` that loads and has it. Nothing when

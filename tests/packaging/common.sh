@@ -42,12 +42,13 @@ check_desktop_tree() {
 }
 
 # check_site_module ROOT: the site module, which the program loads with the version check, is in
-# the program's folder under ROOT's library folder (lib/tarnic-pro, or lib/<multiarch>/tarnic-pro
-# for a /usr prefix), exactly once, and holds the one function the program calls. Prints its path.
+# the program's folder under ROOT's library folder (lib/tarnic-pro/modules, or the same under
+# lib/<multiarch> for a /usr prefix), exactly once, and holds the one function the program calls.
+# Prints its path.
 check_site_module() {
     local root=$1 found
-    found=$(find "$root/lib" -path '*/tarnic-pro/tarnic-pro-site.so' -type f 2>/dev/null)
-    [ -n "$found" ] || fail "no site module tarnic-pro-site.so under $root/lib/.../tarnic-pro"
+    found=$(find "$root/lib" -path '*/tarnic-pro/modules/tarnic-pro-site.so' -type f 2>/dev/null)
+    [ -n "$found" ] || fail "no site module tarnic-pro-site.so under $root/lib/.../tarnic-pro/modules"
     [ "$(wc -l <<<"$found")" -eq 1 ] || fail "more than one site module under $root/lib: $found"
     nm -D --defined-only "$found" | grep -qw tarnic_site_get_v1 ||
         fail "$found does not export tarnic_site_get_v1"

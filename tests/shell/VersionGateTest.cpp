@@ -215,7 +215,8 @@ TEST(SiteModule, IsLookedForBesideTheProgramThenInItsFolderUnderTheLibraryFolder
     ASSERT_EQ(paths.size(), 2);
     const QDir program(QCoreApplication::applicationDirPath());
     EXPECT_EQ(paths[0], program.filePath("tarnic-pro-site.so"));
-    EXPECT_TRUE(paths[1].endsWith("/tarnic-pro/tarnic-pro-site.so")) << paths[1].toStdString();
+    EXPECT_TRUE(paths[1].endsWith("/tarnic-pro/modules/tarnic-pro-site.so"))
+        << paths[1].toStdString();
     EXPECT_TRUE(QDir::isAbsolutePath(paths[1]));
     EXPECT_EQ(QDir::cleanPath(paths[1]), paths[1]);
     // From the program's own folder, so that an installed copy finds it under any prefix.
@@ -277,7 +278,7 @@ TEST(VersionGate, SiteModuleThatIsNoLibraryCountsAsASiteNotReachable) {
                          "ELF but cut short"),
               18);
     file.close();
-    const QString missing = folder.filePath("lib/tarnic-pro/tarnic-pro-site.so");
+    const QString missing = folder.filePath("lib/tarnic-pro/modules/tarnic-pro-site.so");
 
     CaptureStderr();
     const VersionGateResult result =
