@@ -1,12 +1,10 @@
 #include "instance/SingleInstance.h"
 
+#include "instance/AskFirstCopy.h"
+
 #include <QCoreApplication>
 #include <QDir>
-#include <QLocalSocket>
 #include <QThread>
-#include <QTimer>
-
-#include <algorithm>
 
 namespace tarnic {
 
@@ -14,19 +12,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-const QByteArray kActivate = QByteArrayLiteral("activate\n");
-const QByteArray kActivated = QByteArrayLiteral("activated\n");
-// A request is one short line; anything longer is not from this program.
-constexpr qint64 kLongestRequest = 64;
 constexpr std::chrono::milliseconds kRetryPause{50};
 constexpr std::chrono::milliseconds kConnectWait{500};
-constexpr std::chrono::milliseconds kQuietClientWait{5000};
-
-int remainingMs(Clock::time_point deadline) {
-    const auto left =
-        std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
-    return left.count() > 0 ? static_cast<int>(left.count()) : 0;
-}
 
 } // namespace
 
@@ -37,17 +24,13 @@ SingleInstance::SingleInstance(InstanceAddress address, Timing timing, QObject* 
     : QObject(parent), address_(std::move(address)), timing_(timing), lock_(address_.lockPath()) {
     // Only a lock whose process is gone is stale: a copy that has run for days still holds it.
     lock_.setStaleLockTime(0);
-    connect(&server_, &QLocalServer::newConnection, this, [this] {
-        while (QLocalSocket* socket = server_.nextPendingConnection()) {
-            serve(socket);
-        }
-    });
+    connect(&server_, &InstanceServer::activationRequested, this,
+            &SingleInstance::activationRequested);
 }
 
 SingleInstance::~SingleInstance() {
     server_.close();
 }
-
 SingleInstance::Outcome SingleInstance::start() {
     if (address_.folder().isEmpty() || !QDir(address_.folder()).exists()) {
         report_ = QStringLiteral("Tarnic Pro: there is no runtime folder to keep its lock in, so a "
@@ -70,7 +53,7 @@ SingleInstance::Outcome SingleInstance::start() {
         }
         // Another copy holds the lock. It may not listen yet (it started at the same instant), or
         // may be ending (it stops listening first, then lets go of the lock): try again, both ways.
-        if (askFirst(deadline)) {
+        if (askFirstCopy(address_.serverPath(), deadline, kConnectWait)) {
             report_ = QStringLiteral("Tarnic Pro is already running on this display%1; its "
                                      "window was brought to the front.")
                           .arg(ownerText());
@@ -89,62 +72,18 @@ SingleInstance::Outcome SingleInstance::start() {
 bool SingleInstance::listen() {
     // A socket file found here was left by a copy that was killed: the lock is ours now, so no
     // running copy listens on it.
-    QLocalServer::removeServer(address_.serverPath());
+    InstanceServer::removeStale(address_.serverPath());
     if (server_.listen(address_.serverPath())) {
         // Ending copies stop taking requests before they let go of the lock, so that a start
         // in between waits for the lock instead of asking a copy that no longer answers.
         connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &server_,
-                &QLocalServer::close);
+                &InstanceServer::close);
         return true;
     }
     report_ = QStringLiteral("Tarnic Pro: cannot listen on \"%1\" (%2); a later start on "
                              "this display will end without bringing this window to the front.")
                   .arg(address_.serverPath(), server_.errorString());
     return false;
-}
-
-bool SingleInstance::askFirst(Clock::time_point deadline) {
-    QLocalSocket socket;
-    socket.connectToServer(address_.serverPath());
-    if (!socket.waitForConnected(
-            std::min(remainingMs(deadline), static_cast<int>(kConnectWait.count())))) {
-        return false;
-    }
-    socket.write(kActivate);
-    if (!socket.waitForBytesWritten(remainingMs(deadline))) {
-        return false;
-    }
-    // The first copy answers from its event loop, which may still be busy starting up.
-    while (!socket.canReadLine()) {
-        if (socket.bytesAvailable() > kLongestRequest || remainingMs(deadline) == 0 ||
-            !socket.waitForReadyRead(remainingMs(deadline))) {
-            return false;
-        }
-    }
-    return socket.readLine() == kActivated;
-}
-
-void SingleInstance::serve(QLocalSocket* socket) {
-    connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
-    // A client that connects and says nothing does not keep its socket for ever.
-    QTimer::singleShot(kQuietClientWait, socket, &QLocalSocket::abort);
-    const auto answer = [this, socket] {
-        if (!socket->canReadLine()) {
-            if (socket->bytesAvailable() > kLongestRequest) {
-                socket->abort();
-            }
-            return;
-        }
-        if (socket->readLine() == kActivate) {
-            emit activationRequested();
-            socket->write(kActivated);
-            socket->flush();
-        }
-        socket->disconnectFromServer();
-    };
-    connect(socket, &QLocalSocket::readyRead, this, answer);
-    // The request may have come with the connection.
-    answer();
 }
 
 QString SingleInstance::ownerText() const {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "instance/InstanceAddress.h"
+#include "instance/InstanceServer.h"
 
-#include <QLocalServer>
 #include <QLockFile>
 #include <QObject>
 #include <QString>
@@ -12,7 +12,7 @@
 namespace tarnic {
 
 // Keeps one copy of the program per user and display. The first copy to start holds a lock file
-// and listens on a local socket beside it; a later start finds the lock taken, asks that copy
+// and listens on a Unix-domain socket beside it; a later start finds the lock taken, asks that copy
 // over the socket to bring its window to the front, and ends once it has answered.
 //
 // The lock decides, not the socket: two starts at the same instant cannot both take it, and
@@ -65,16 +65,12 @@ signals:
 
 private:
     bool listen();
-    // Asks the copy that holds the lock to come to the front: true once it has said so, false
-    // when it is not (or no longer) there to ask.
-    bool askFirst(std::chrono::steady_clock::time_point deadline);
-    void serve(class QLocalSocket* socket);
     QString ownerText() const;
 
     InstanceAddress address_;
     Timing timing_;
     QLockFile lock_;
-    QLocalServer server_;
+    InstanceServer server_;
     QString report_;
 };
 

@@ -1,68 +1,43 @@
 #include "shell/BlockingHttpGet.h"
 
-#include <QEventLoop>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
-#include <QNetworkRequest>
-#include <QTimer>
+#include "shell/SiteModule.h"
 
-#include <memory>
+#include <cstdio>
+#include <utility>
 
 namespace tarnic {
+
 namespace {
 
-// Errors that stand for an HTTP status the server answered with (404, 500...). The answer came
-// complete, so its body counts like any other.
-bool isHttpStatusError(QNetworkReply::NetworkError error) {
-    return (error >= QNetworkReply::ContentAccessDenied &&
-            error <= QNetworkReply::UnknownContentError) ||
-           error == QNetworkReply::ProtocolInvalidOperationError ||
-           (error >= QNetworkReply::InternalServerError &&
-            error <= QNetworkReply::UnknownServerError);
+void appendTo(void* context, const char* data, std::size_t size) {
+    static_cast<QByteArray*>(context)->append(data, static_cast<qsizetype>(size));
 }
 
 } // namespace
 
+BlockingHttpGet::BlockingHttpGet() : BlockingHttpGet(SiteModule::defaultPaths()) {}
+
+BlockingHttpGet::BlockingHttpGet(QStringList modulePaths) : modulePaths_(std::move(modulePaths)) {}
+
 std::optional<QByteArray> BlockingHttpGet::get(const QUrl& url,
                                                std::chrono::milliseconds timeout) const {
-    QNetworkAccessManager network;
-    QNetworkRequest request(url);
-    // One bound for the whole load below, not one per pause in the transfer: a server that
-    // trickles bytes must not hold the start-up either.
-    request.setTransferTimeout(0);
-    const std::unique_ptr<QNetworkReply> reply(network.get(request));
-
-    bool tooLarge = false;
-    bool timedOut = false;
-    QEventLoop loop;
-    QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
-    QObject::connect(reply.get(), &QNetworkReply::downloadProgress, &loop,
-                     [&](qint64 received, qint64 total) {
-                         if (!tooLarge && (received > kMaxBodyBytes || total > kMaxBodyBytes)) {
-                             tooLarge = true;
-                             reply->abort();
-                         }
-                     });
-    QTimer deadline;
-    deadline.setSingleShot(true);
-    deadline.setTimerType(Qt::CoarseTimer);
-    QObject::connect(&deadline, &QTimer::timeout, &loop, [&] {
-        timedOut = true;
-        reply->abort();
-    });
-    if (!reply->isFinished()) {
-        deadline.start(timeout);
-        loop.exec(QEventLoop::ExcludeUserInputEvents);
-    }
-
-    if (tooLarge || timedOut || !reply->isFinished()) {
+    QString failure;
+    const site::GetFunction siteGet = SiteModule::load(modulePaths_, failure);
+    if (siteGet == nullptr) {
+        // Without the module the site cannot be asked: to the caller that is a site out of reach,
+        // and standard error says why.
+        std::fprintf(stderr,
+                     "Tarnic Pro: cannot load the site module, so the site counts as not "
+                     "reachable: %s\n",
+                     failure.toLocal8Bit().constData());
+        std::fflush(stderr);
         return std::nullopt;
     }
-    if (reply->error() != QNetworkReply::NoError && !isHttpStatusError(reply->error())) {
-        return std::nullopt;
-    }
-    QByteArray body = reply->readAll();
-    if (body.size() > kMaxBodyBytes) {
+    QByteArray body;
+    const QByteArray encoded = url.toEncoded();
+    if (siteGet(encoded.constData(), static_cast<long long>(timeout.count()), kMaxBodyBytes,
+                &appendTo, &body) != 1 ||
+        body.size() > kMaxBodyBytes) {
         return std::nullopt;
     }
     return body;

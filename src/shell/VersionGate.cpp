@@ -19,7 +19,16 @@ VersionGateResult checkVersionSupport(const QString& siteUrl, std::chrono::milli
     if (!url.isValid()) {
         return VersionGateResult::NoUrl;
     }
-    const auto body = BlockingHttpGet().get(url, timeout);
+    return checkVersionSupport(siteUrl, timeout, BlockingHttpGet());
+}
+
+VersionGateResult checkVersionSupport(const QString& siteUrl, std::chrono::milliseconds timeout,
+                                      const BlockingHttpGet& http) {
+    const QUrl url = versionSupportUrl(siteUrl);
+    if (!url.isValid()) {
+        return VersionGateResult::NoUrl;
+    }
+    const auto body = http.get(url, timeout);
     return body && isVersionSupportDictionary(*body) ? VersionGateResult::Passed
                                                      : VersionGateResult::Failed;
 }

@@ -7,6 +7,8 @@
 
 namespace tarnic {
 
+class BlockingHttpGet;
+
 enum class VersionGateResult {
     NoUrl,  // the site address does not form a URL: nothing is checked
     Passed, // the version-support file loaded as a dictionary
@@ -25,5 +27,9 @@ QUrl versionSupportUrl(const QString& siteUrl);
 // status.
 VersionGateResult checkVersionSupport(const QString& siteUrl,
                                       std::chrono::milliseconds timeout = kVersionLoadTimeout);
+// The same, with `http` for the GET. One that cannot load its site module counts as a site that
+// cannot be reached: the check fails.
+VersionGateResult checkVersionSupport(const QString& siteUrl, std::chrono::milliseconds timeout,
+                                      const BlockingHttpGet& http);
 
 } // namespace tarnic

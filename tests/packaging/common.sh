@@ -41,6 +41,20 @@ check_desktop_tree() {
     rsvg-convert --width 16 --height 16 "$svg" >/dev/null || fail "$svg does not render"
 }
 
+# check_site_module ROOT: the site module, which the program loads with the version check, is in
+# the program's folder under ROOT's library folder (lib/tarnic-pro/modules, or the same under
+# lib/<multiarch> for a /usr prefix), exactly once, and holds the one function the program calls.
+# Prints its path.
+check_site_module() {
+    local root=$1 found
+    found=$(find "$root/lib" -path '*/tarnic-pro/modules/tarnic-pro-site.so' -type f 2>/dev/null)
+    [ -n "$found" ] || fail "no site module tarnic-pro-site.so under $root/lib/.../tarnic-pro/modules"
+    [ "$(wc -l <<<"$found")" -eq 1 ] || fail "more than one site module under $root/lib: $found"
+    nm -D --defined-only "$found" | grep -qw tarnic_site_get_v1 ||
+        fail "$found does not export tarnic_site_get_v1"
+    echo "$found"
+}
+
 # validate_desktop_files ROOT APP_ID: the freedesktop validators on the installed files, without
 # network (the metainfo's URLs are not fetched).
 validate_desktop_files() {

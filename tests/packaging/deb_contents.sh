@@ -24,8 +24,11 @@ arch=$(dpkg --print-architecture)
 [ "$(basename "$deb")" = "tarnic-pro_${version}_${arch}.deb" ] || fail "unexpected file name $(basename "$deb")"
 
 check_desktop_tree "$scratch/root/usr" "$id" "$sizes"
+# The site module, which the program loads from its own folder under the library folder.
+module=$(check_site_module "$scratch/root/usr")
 # Nothing else rides along: no headers, static libraries or test programs of the build.
 stray=$(cd "$scratch/root" && find . -type f ! -path ./usr/bin/tarnic-pro \
+    ! -path "./usr/${module#"$scratch/root/usr/"}" \
     ! -path "./usr/share/applications/$id.desktop" ! -path "./usr/share/metainfo/$id.metainfo.xml" \
     ! -path "./usr/share/icons/hicolor/*/apps/$id.*" ! -path "./usr/share/doc/tarnic-pro/*" \
     ! -path ./usr/share/man/man1/tarnic-pro.1.gz)
@@ -41,11 +44,11 @@ zcat "$doc/changelog.gz" | head -n 1 | grep -q "^tarnic-pro ($version) " ||
 page=$(MANWIDTH=80 man -l "$scratch/root/usr/share/man/man1/tarnic-pro.1.gz" 2>&1) ||
     fail "man cannot format tarnic-pro(1): $page"
 grep -Eq 'tarnic-pro +- hotkey editor' <<<"$page" || fail "tarnic-pro(1) has no NAME line"
-# The program carries nothing for tests or benchmarks: no switch to the recording fakes, no exit for
+# The program and its module carry nothing for tests or benchmarks: no switch to the recording fakes, no exit for
 # the start-up benchmark.
 # (XTestFakeKeyEvent is the X server's call for typing a key, not a fake of ours, and
 # _TARNIC_PRO_KEYPAD_KEYCODES names the root-window note on the keycodes the program claims.)
-switches=$(strings "$scratch/root/usr/bin/tarnic-pro" | grep -E '(^|[^_])TARNIC_[A-Z_]+|BENCH|[Ff]ake' |
+switches=$(strings "$scratch/root/usr/bin/tarnic-pro" "$module" | grep -E '(^|[^_])TARNIC_[A-Z_]+|BENCH|[Ff]ake' |
     grep -v -e '^XTestFakeKeyEvent$' -e '^_TARNIC_PRO_KEYPAD_KEYCODES$' || true)
 [ -z "$switches" ] || fail "the program holds test or benchmark switches: $switches"
 # A home page is only named for a real site, never for the loopback copy of it.
@@ -54,13 +57,13 @@ case "$homepage" in
 *://127.* | *://localhost* | *://\[::1\]*) fail "Homepage names the loopback site $homepage" ;;
 esac
 
-# Depends: every library the program needs must come from a package the Depends line names. The C
-# library always comes with the minimum version its symbols ask for: dpkg-shlibdeps wrote the line.
+# Depends: every library the program or its module needs must come from a package the Depends line
+# names. The C library always comes with the minimum version its symbols ask for: dpkg-shlibdeps
+# wrote the line.
 depends=$(field Depends)
 [ -n "$depends" ] || fail "the package has no Depends line"
 echo "Depends: $depends"
 declare -A wanted=()
-exe=$scratch/root/usr/bin/tarnic-pro
 # The package that owns a library file; Debian lists some under /lib, some under /usr/lib.
 owner_of() {
     local path candidates=("$1" "$(readlink -f "$1")")
@@ -74,18 +77,20 @@ owner_of() {
         fi
     done
 }
-# Read whole, never cut short: a reader that stops early would kill the writer with SIGPIPE.
-resolved=$(ldd "$exe") || fail "ldd cannot resolve the program's libraries"
-while read -r soname; do
-    # ldd writes "soname => path (address)", but the dynamic loader (named once the program uses
-    # thread-local storage) as "path (address)".
-    lib=$(awk -v s="$soname" '!found && (($1 == s && $2 == "=>" && $3 ~ /^\//) ||
-        ($1 ~ ("/" s "$") && $2 ~ /^\(/)) { print ($2 == "=>" ? $3 : $1); found = 1 }' <<<"$resolved")
-    [ -n "$lib" ] && [ -e "$lib" ] || fail "the program needs $soname, which this system does not have"
-    owner=$(owner_of "$lib")
-    [ -n "$owner" ] || fail "no Debian package owns $lib (needed as $soname)"
-    wanted[$owner]=$soname
-done < <(readelf -d "$exe" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p')
+for elf in "$scratch/root/usr/bin/tarnic-pro" "$module"; do
+    # Read whole, never cut short: a reader that stops early would kill the writer with SIGPIPE.
+    resolved=$(ldd "$elf") || fail "ldd cannot resolve the libraries of $elf"
+    while read -r soname; do
+        # ldd writes "soname => path (address)", but the dynamic loader (named once the program uses
+        # thread-local storage) as "path (address)".
+        lib=$(awk -v s="$soname" '!found && (($1 == s && $2 == "=>" && $3 ~ /^\//) ||
+            ($1 ~ ("/" s "$") && $2 ~ /^\(/)) { print ($2 == "=>" ? $3 : $1); found = 1 }' <<<"$resolved")
+        [ -n "$lib" ] && [ -e "$lib" ] || fail "$elf needs $soname, which this system does not have"
+        owner=$(owner_of "$lib")
+        [ -n "$owner" ] || fail "no Debian package owns $lib (needed as $soname)"
+        wanted[$owner]=$soname
+    done < <(readelf -d "$elf" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p')
+done
 [ ${#wanted[@]} -gt 0 ] || fail "readelf found no shared library the program needs"
 
 IFS=',' read -ra entries <<<"$depends"

@@ -9,4 +9,6 @@ build=$1 prefix=$2 id=$3 sizes=$4
 rm -rf "$prefix"
 cmake --install "$build" --prefix "$prefix" || fail "cmake --install into $prefix failed"
 check_desktop_tree "$prefix" "$id" "$sizes"
+module=$(check_site_module "$prefix")
+echo "site module: $module"
 echo "installed tree in $prefix is complete"

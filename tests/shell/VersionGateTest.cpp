@@ -4,9 +4,14 @@
 #include "support/LoopbackHttpServer.h"
 #include "shell/PlistSamples.h"
 #include "shell/SiteAddress.h"
+#include "shell/SiteModule.h"
 
 #include "support/QtPrinters.h"
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -14,6 +19,7 @@
 #include <chrono>
 #include <functional>
 #include <ostream>
+#include <string>
 
 namespace tarnic {
 
@@ -193,6 +199,111 @@ TEST(BlockingHttpGet, NothingWhenNoAnswerCameInTime) {
     server.serveLate("/file", kLateAnswer, test::xmlDictionary());
 
     EXPECT_FALSE(BlockingHttpGet().get(QUrl(server.baseUrl() + "/file"), 200ms).has_value());
+}
+
+// The site module is where the version check's GET lives; the program loads it only when the
+// check runs.
+using ::testing::internal::CaptureStderr;
+using ::testing::internal::GetCapturedStderr;
+
+QString lines(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+TEST(SiteModule, IsLookedForBesideTheProgramThenInItsFolderUnderTheLibraryFolder) {
+    const QStringList paths = SiteModule::defaultPaths();
+    ASSERT_EQ(paths.size(), 2);
+    const QDir program(QCoreApplication::applicationDirPath());
+    EXPECT_EQ(paths[0], program.filePath("tarnic-pro-site.so"));
+    EXPECT_TRUE(paths[1].endsWith("/tarnic-pro/modules/tarnic-pro-site.so"))
+        << paths[1].toStdString();
+    EXPECT_TRUE(QDir::isAbsolutePath(paths[1]));
+    EXPECT_EQ(QDir::cleanPath(paths[1]), paths[1]);
+    // From the program's own folder, so that an installed copy finds it under any prefix.
+    QDir prefix = program;
+    ASSERT_TRUE(prefix.cdUp());
+    EXPECT_TRUE(paths[1].startsWith(prefix.path() + "/")) << paths[1].toStdString();
+}
+
+TEST(SiteModule, TheBuiltModuleLoadsAndHasItsFunction) {
+    QString failure = QStringLiteral("not cleared");
+    EXPECT_NE(SiteModule::load({TARNIC_SITE_MODULE_PATH}, failure), nullptr)
+        << failure.toStdString();
+    EXPECT_TRUE(failure.isEmpty());
+}
+
+TEST(SiteModule, TheFirstPathThatLoadsIsTaken) {
+    QTemporaryDir folder;
+    ASSERT_TRUE(folder.isValid());
+    QString failure;
+    EXPECT_NE(
+        SiteModule::load({folder.filePath("tarnic-pro-site.so"), TARNIC_SITE_MODULE_PATH}, failure),
+        nullptr)
+        << failure.toStdString();
+}
+
+TEST(VersionGate, MissingSiteModuleCountsAsASiteNotReachableAndSaysSoOnOneLine) {
+    test::LoopbackHttpServer server;
+    ASSERT_TRUE(server.listen());
+    // A dictionary a working check would pass on.
+    server.serve("/tn11.plist", test::xmlDictionary());
+    QTemporaryDir folder;
+    ASSERT_TRUE(folder.isValid());
+    const QString missing = folder.filePath("tarnic-pro-site.so");
+
+    CaptureStderr();
+    const VersionGateResult result =
+        checkVersionSupport(server.baseUrl(), 20s, BlockingHttpGet({missing}));
+    const QString said = lines(GetCapturedStderr());
+
+    EXPECT_EQ(result, VersionGateResult::Failed);
+    EXPECT_EQ(said.count('\n'), 1) << said.toStdString();
+    EXPECT_TRUE(said.endsWith('\n')) << said.toStdString();
+    EXPECT_TRUE(said.contains(missing)) << said.toStdString();
+    EXPECT_TRUE(said.contains("not reachable")) << said.toStdString();
+    // Nothing was asked of the site.
+    EXPECT_TRUE(server.requestedPaths().isEmpty());
+}
+
+TEST(VersionGate, SiteModuleThatIsNoLibraryCountsAsASiteNotReachable) {
+    test::LoopbackHttpServer server;
+    ASSERT_TRUE(server.listen());
+    server.serve("/tn11.plist", test::xmlDictionary());
+    QTemporaryDir folder;
+    ASSERT_TRUE(folder.isValid());
+    const QString broken = folder.filePath("tarnic-pro-site.so");
+    QFile file(broken);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_EQ(file.write("\x7f"
+                         "ELF but cut short"),
+              18);
+    file.close();
+    const QString missing = folder.filePath("lib/tarnic-pro/modules/tarnic-pro-site.so");
+
+    CaptureStderr();
+    const VersionGateResult result =
+        checkVersionSupport(server.baseUrl(), 20s, BlockingHttpGet({broken, missing}));
+    const QString said = lines(GetCapturedStderr());
+
+    EXPECT_EQ(result, VersionGateResult::Failed);
+    EXPECT_EQ(said.count('\n'), 1) << said.toStdString();
+    EXPECT_TRUE(said.contains(broken)) << said.toStdString();
+    EXPECT_TRUE(said.contains(missing)) << said.toStdString();
+    EXPECT_TRUE(server.requestedPaths().isEmpty());
+}
+
+TEST(VersionGate, TheModuleFoundBesideTheProgramAsksTheSiteAndSaysNothing) {
+    test::LoopbackHttpServer server;
+    ASSERT_TRUE(server.listen());
+    server.serve("/tn11.plist", test::xmlDictionary());
+
+    CaptureStderr();
+    const VersionGateResult result = checkVersionSupport(server.baseUrl(), 20s);
+    const std::string said = GetCapturedStderr();
+
+    EXPECT_EQ(result, VersionGateResult::Passed);
+    EXPECT_EQ(said, "");
+    EXPECT_EQ(server.requestedPaths(), QStringList{"/tn11.plist"});
 }
 
 } // namespace
