@@ -15,6 +15,7 @@
 #include "QuitAfterFirstPaint.h"
 
 #include "app/Application.h"
+#include "gui/ApplicationStyle.h"
 #include "platform/select/MakePlatform.h"
 
 #include <QApplication>
@@ -27,6 +28,7 @@
 int main(int argc, char* argv[]) {
     QApplication qapp(argc, argv);
     tarnic::setApplicationIdentity();
+    tarnic::ApplicationStyle::install();
 
     bool afterPaintWork = false;
     bool slowed = false;

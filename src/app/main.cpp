@@ -1,4 +1,5 @@
 #include "app/Application.h"
+#include "gui/ApplicationStyle.h"
 #include "instance/SingleInstance.h"
 #include "instance/WindowToFront.h"
 #include "platform/select/MakePlatform.h"
@@ -20,6 +21,7 @@ void tell(const QString& line) {
 int main(int argc, char* argv[]) {
     QApplication qapp(argc, argv);
     tarnic::setApplicationIdentity();
+    tarnic::ApplicationStyle::install();
 
     // One copy per user and display: a second start hands over to the first copy and ends here,
     // before the platform claims keycodes or observes a key and before the store is read, so two

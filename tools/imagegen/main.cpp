@@ -4,16 +4,21 @@
 // pixels in the form gui/Pictures.h describes (:/pictures/... and :/thumbnails/...), with the Qt
 // resource file that serves them (pictures.qrc). The same pictures are written as PNGs too, with a
 // resource file of their own (picture-files.qrc, :/picture-files/<edge>@<ratio>x/<name>.png), for
-// the tests to compare the raw pixels with and for a person to look at.
+// the tests to compare the raw pixels with and for a person to look at. It also copies the pixels
+// of the image of Qt's that Fusion draws group boxes from (gui/StyleImages.h), as
+// :/style-images/... in the same resource file.
 //
 // Usage: tarnic-imagegen <output folder>
 
 #include "core/catalogue/Catalogue.h"
 #include "gui/Pictures.h"
+#include "gui/StyleImages.h"
 
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
+#include <QApplication>
+#include <QDateTime>
+#include <QFileInfo>
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
@@ -244,10 +249,34 @@ bool writeFile(const QString& path, const QByteArray& bytes) {
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
 }
 
+// Copies the pixels of a style image of Qt's as gui/StyleImages.h describes; the qrc entries for
+// them, or an empty text when this Qt has no such image (the program then reads Qt's file).
+QString copyStyleImage(const QDir& out, const QString& qtFile, const QString& name) {
+    const QFileInfo file(qtFile);
+    const QImage image(qtFile);
+    if (!file.exists() || image.isNull()) {
+        return {};
+    }
+    const QByteArray source = QByteArray::number(image.width()) + ' ' +
+                              QByteArray::number(image.height()) + ' ' +
+                              QByteArray::number(file.size()) + ' ' +
+                              QByteArray::number(file.lastModified().toSecsSinceEpoch()) + '\n';
+    const QString pixelsFile = name + QStringLiteral(".rgba");
+    const QString sourceFile = name + QStringLiteral(".source");
+    if (!writeFile(out.filePath(pixelsFile), rawPixels(image)) ||
+        !writeFile(out.filePath(sourceFile), source)) {
+        return {};
+    }
+    return QStringLiteral("        <file alias=\"%1\" compression-algorithm=\"none\">%2</file>\n"
+                          "        <file alias=\"%1.source\">%3</file>\n")
+        .arg(name, pixelsFile, sourceFile);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
-    QGuiApplication app(argc, argv);
+    // QApplication: Qt's own style images are resources of its widgets library.
+    QApplication app(argc, argv);
     if (argc != 2) {
         std::fprintf(stderr, "usage: tarnic-imagegen <output folder>\n");
         return 2;
@@ -319,6 +348,8 @@ int main(int argc, char** argv) {
             return 1;
         }
     }
+    const QString styleEntries =
+        copyStyleImage(out, tarnic::groupBoxFramePath(), QStringLiteral("fusion_groupbox"));
     const QString qrc =
         QStringLiteral("<!DOCTYPE RCC>\n<RCC version=\"1.0\">\n"
                        "    <qresource prefix=\"/pictures\">\n") +
@@ -328,7 +359,9 @@ int main(int argc, char** argv) {
                        "        <file alias=\"names\">thumbnails.names</file>\n"
                        "        <file alias=\"pixels\" compression-algorithm=\"none\">"
                        "thumbnails.pixels</file>\n"
-                       "    </qresource>\n</RCC>\n");
+                       "    </qresource>\n"
+                       "    <qresource prefix=\"/style-images\">\n") +
+        styleEntries + QStringLiteral("    </qresource>\n</RCC>\n");
     const QString filesQrc = QStringLiteral("<!DOCTYPE RCC>\n<RCC version=\"1.0\">\n"
                                             "    <qresource prefix=\"/picture-files\">\n") +
                              pngEntries + QStringLiteral("    </qresource>\n</RCC>\n");
