@@ -28,7 +28,6 @@
 int main(int argc, char* argv[]) {
     QApplication qapp(argc, argv);
     tarnic::setApplicationIdentity();
-    tarnic::ApplicationStyle::install();
 
     bool afterPaintWork = false;
     bool slowed = false;
@@ -44,6 +43,7 @@ int main(int argc, char* argv[]) {
         options.launchAtTheLatest *= kSlowdown;
         options.gameDetectionInterval *= kSlowdown;
     }
+    tarnic::ApplicationStyle::install();
     tarnic::Application app(tarnic::makePlatform(), options);
     std::unique_ptr<QObject> quit;
     if (afterPaintWork) {

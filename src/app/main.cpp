@@ -21,7 +21,6 @@ void tell(const QString& line) {
 int main(int argc, char* argv[]) {
     QApplication qapp(argc, argv);
     tarnic::setApplicationIdentity();
-    tarnic::ApplicationStyle::install();
 
     // One copy per user and display: a second start hands over to the first copy and ends here,
     // before the platform claims keycodes or observes a key and before the store is read, so two
@@ -46,6 +45,8 @@ int main(int argc, char* argv[]) {
     // application below is destroyed in order (its platform gives back the keycodes it claimed).
     tarnic::QuitOnSignals quitOnSignals;
 
+    // Before the first widget: the window is built in the application's style.
+    tarnic::ApplicationStyle::install();
     tarnic::Application app(tarnic::makePlatform());
     QObject::connect(&instance, &tarnic::SingleInstance::activationRequested, &app.window(),
                      [&app] { tarnic::bringWindowToFront(app.window()); });
