@@ -1,5 +1,6 @@
 #include "app/Launch.h"
 
+#include "gui/ApplicationStyle.h"
 #include "instance/SingleInstance.h"
 #include "instance/WindowToFront.h"
 #include "platform/select/MakePlatform.h"
@@ -45,6 +46,9 @@ int launch(int& argc, char* argv[], const LaunchHooks& hooks) {
     // SIGTERM, SIGINT and SIGHUP leave the event loop like closing the window, so that the
     // application below is destroyed in order (its platform gives back the keycodes it claimed).
     QuitOnSignals quitOnSignals;
+
+    // Before the first widget: the window is built in the application's style.
+    ApplicationStyle::install();
     Application::Options options;
     if (hooks.adjustOptions) {
         hooks.adjustOptions(options);

@@ -16,14 +16,16 @@
 #include "gui/PopUpTitles.h"
 #include "gui/StatusBarTexts.h"
 
-#include <QPixmap>
+#include <QLabel>
 
 namespace tarnic {
 
 namespace {
 
-QPixmap pictureFor(const std::string& name) {
-    return pictureNamed(toQString(name));
+// The picture as drawn for the view, at the view's screen's pixel ratio: the view shows it as it
+// is, without scaling it.
+void showPicture(QLabel& view, const std::string& name, int edge) {
+    view.setPixmap(pictureNamed(toQString(name), edge, view.devicePixelRatio()));
 }
 
 } // namespace
@@ -102,8 +104,8 @@ void EditorController::syncKeysPopup() {
 
 void EditorController::tableViewSelectionDidChange() {
     const SelectionDetail detail = selectionDetail(mainDic_[selectedIndex()]);
-    outlet(outlets_.spellImage, "spellImage").setPixmap(pictureFor(detail.spellImage));
-    outlet(outlets_.parentImage, "parentImage").setPixmap(pictureFor(detail.parentImage));
+    showPicture(outlet(outlets_.spellImage, "spellImage"), detail.spellImage, kAbilityPictureEdge);
+    showPicture(outlet(outlets_.parentImage, "parentImage"), detail.parentImage, kOwnerPictureEdge);
     outlet(outlets_.parentLbl, "parentLbl").setText(toQString(detail.parentLbl));
     selectItemWithTitle(outlet(outlets_.keysPopup, "keysPopup"), detail.popupTitle);
     outlet(outlets_.defHotkey, "defHotkey").setText(toQString(detail.defHotkey));

@@ -4,6 +4,7 @@
 #include "core/editor/GridLayout.h"
 #include "core/editor/RecordFactory.h"
 #include "gui/AbilityTableView.h"
+#include "gui/Pictures.h"
 
 #include <QHeaderView>
 #include <QTest>
@@ -11,9 +12,10 @@
 namespace tarnic::test {
 namespace {
 
-// Pictures compared pixel by pixel, whatever the format they were kept in.
-QImage pictureFile(const QString& name) {
-    return QImage(QStringLiteral(":/images/") + name + QStringLiteral(".png"))
+// The picture drawn for a view `edge` pixels square, as its PNG file, to compare pixel by pixel
+// whatever the format the program keeps it in.
+QImage pictureFile(const QString& name, int edge) {
+    return QImage(QStringLiteral(":/picture-files/%1@1x/%2.png").arg(edge).arg(name))
         .convertToFormat(QImage::Format_ARGB32);
 }
 
@@ -76,15 +78,16 @@ TEST_F(AbilityTable, EveryRowShowsItsRecordInTheDetailArea) {
         const QString name = QString::fromStdString(record.at(name_spell));
         const auto owner = record.find(name_parent);
         EXPECT_EQ(ui().spellLbl->text(), name);
-        EXPECT_EQ(shown(*ui().spellImage), pictureFile(name)) << name.toStdString();
+        EXPECT_EQ(shown(*ui().spellImage), pictureFile(name, kAbilityPictureEdge))
+            << name.toStdString();
         EXPECT_FALSE(ui().spellImage->pixmap().isNull()) << name.toStdString();
         if (owner == record.end()) {
             EXPECT_EQ(ui().parentLbl->text(), "");
-            EXPECT_EQ(shown(*ui().parentImage), pictureFile("empty"));
+            EXPECT_EQ(shown(*ui().parentImage), pictureFile("empty", kOwnerPictureEdge));
         } else {
             const QString ownerName = QString::fromStdString(owner->second);
             EXPECT_EQ(ui().parentLbl->text(), ownerName);
-            EXPECT_EQ(shown(*ui().parentImage), pictureFile(ownerName));
+            EXPECT_EQ(shown(*ui().parentImage), pictureFile(ownerName, kOwnerPictureEdge));
             EXPECT_FALSE(ui().parentImage->pixmap().isNull()) << owner->second;
         }
         EXPECT_EQ(ui().defHotkey->text().toStdString(),
@@ -97,8 +100,8 @@ TEST_F(AbilityTable, MoveShowsTheEmptyOwnerPictureAndPeasantAbilityShowsThePeasa
     launch();
     clickRow(0);
     EXPECT_EQ(ui().parentLbl->text(), "");
-    EXPECT_EQ(shown(*ui().parentImage), pictureFile("empty"));
-    EXPECT_FALSE(pictureFile("empty").isNull());
+    EXPECT_EQ(shown(*ui().parentImage), pictureFile("empty", kOwnerPictureEdge));
+    EXPECT_FALSE(pictureFile("empty", kOwnerPictureEdge).isNull());
     const auto& list = all_data();
     const auto peasant = std::find_if(list.begin(), list.end(), [](const AbilityRecord& r) {
         return r.count(name_parent) != 0 && r.at(name_parent) == "Peasant";
@@ -106,7 +109,40 @@ TEST_F(AbilityTable, MoveShowsTheEmptyOwnerPictureAndPeasantAbilityShowsThePeasa
     ASSERT_NE(peasant, list.end());
     clickRow(static_cast<int>(peasant - list.begin()));
     EXPECT_EQ(ui().parentLbl->text(), "Peasant");
-    EXPECT_EQ(shown(*ui().parentImage), pictureFile("Peasant"));
+    EXPECT_EQ(shown(*ui().parentImage), pictureFile("Peasant", kOwnerPictureEdge));
+}
+
+TEST_F(AbilityTable, DetailPicturesAreShownAtTheSizeTheyWereDrawn) {
+    launch();
+    ASSERT_EQ(ui().spellImage->minimumSize(), QSize(kAbilityPictureEdge, kAbilityPictureEdge));
+    ASSERT_EQ(ui().spellImage->maximumSize(), ui().spellImage->minimumSize());
+    ASSERT_EQ(ui().parentImage->minimumSize(), QSize(kOwnerPictureEdge, kOwnerPictureEdge));
+    ASSERT_EQ(ui().parentImage->maximumSize(), ui().parentImage->minimumSize());
+    const auto& list = all_data();
+    // Move (no owner: "empty"), an ability of the Peasant, and the abilities named like an owner.
+    std::vector<int> rows = {0};
+    for (std::size_t r = 0; r < list.size(); ++r) {
+        const std::string& name = list[r].at(name_spell);
+        if (name == "Call to Arms" || name == "Summon Bear" || name == "Destroyer") {
+            rows.push_back(static_cast<int>(r));
+        }
+    }
+    ASSERT_EQ(rows.size(), 4u);
+    for (const int row : rows) {
+        clickRow(row);
+        for (QLabel* view : {ui().spellImage, ui().parentImage}) {
+            const QPixmap shownPixmap = view->pixmap();
+            ASSERT_FALSE(shownPixmap.isNull()) << row;
+            EXPECT_EQ(shownPixmap.deviceIndependentSize().toSize(), view->size()) << row;
+            EXPECT_EQ(shownPixmap.devicePixelRatio(), view->devicePixelRatio()) << row;
+            // The view shows the pixmap as it is: nothing to scale when it paints.
+            EXPECT_FALSE(view->hasScaledContents());
+        }
+    }
+    // On a screen of device pixel ratio 2 the owner's picture has the pixels of that screen.
+    const QPixmap sharp = pictureNamed(QStringLiteral("Peasant"), kOwnerPictureEdge, 2.0);
+    EXPECT_EQ(sharp.size(), QSize(2 * kOwnerPictureEdge, 2 * kOwnerPictureEdge));
+    EXPECT_EQ(sharp.deviceIndependentSize().toSize(), ui().parentImage->size());
 }
 
 TEST_F(AbilityTable, PopupShowsTheChosenKeyElseTheDefault) {

@@ -1,19 +1,25 @@
 // Draws the pictures of the hotkey editor: an emblem for every ability name and every owner name
-// of the catalogue, and the "empty" picture, all drawn here from the name alone. Writes the PNGs
-// and a Qt resource file that serves each one as :/images/<name>.png, and the small copies the
-// ability table shows in the form gui/Pictures.h describes (:/thumbnails/names and
-// :/thumbnails/pixels).
+// of the catalogue, and the "empty" picture, all drawn here from the name alone, each at the size
+// of the view that shows it. Writes them, and the small copies the ability table shows, as raw
+// pixels in the form gui/Pictures.h describes (:/pictures/... and :/thumbnails/...), with the Qt
+// resource file that serves them (pictures.qrc). The same pictures are written as PNGs too, with a
+// resource file of their own (picture-files.qrc, :/picture-files/<edge>@<ratio>x/<name>.png), for
+// the tests to compare the raw pixels with and for a person to look at. It also copies the pixels
+// of the image of Qt's that Fusion draws group boxes from (gui/StyleImages.h), as
+// :/style-images/... in the same resource file.
 //
 // Usage: tarnic-imagegen <output folder>
 
 #include "core/catalogue/Catalogue.h"
 #include "gui/Pictures.h"
+#include "gui/StyleImages.h"
 
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
+#include <QApplication>
+#include <QDateTime>
+#include <QFileInfo>
 #include <QImage>
-#include <QImageReader>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
@@ -26,9 +32,12 @@
 #include <map>
 #include <numbers>
 #include <utility>
+#include <vector>
 
 namespace {
 
+// The emblems are laid out on a square of this many units, and scaled to the pixels they are
+// drawn at.
 constexpr int kSize = 64;
 
 enum class Kind { Ability, Owner, Empty };
@@ -133,11 +142,12 @@ void drawInitials(QPainter& painter, const QRectF& area, const QString& letters,
     painter.drawPath(text);
 }
 
-QImage drawEmblem(const QString& name, Kind kind) {
-    QImage image(kSize, kSize, QImage::Format_ARGB32_Premultiplied);
+QImage drawEmblem(const QString& name, Kind kind, int pixels) {
+    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(static_cast<double>(pixels) / kSize, static_cast<double>(pixels) / kSize);
     const QRectF frame(2, 2, kSize - 4, kSize - 4);
     const QPointF centre = frame.center();
 
@@ -189,22 +199,84 @@ QString xmlEscaped(QString text) {
         .replace(QLatin1Char('"'), QStringLiteral("&quot;"));
 }
 
-// The table's small copy of a picture file, made as the table used to make it when it showed the
-// row: the file read into a pixmap, then scaled smoothly. Drawing it here spares the program a
-// decoding of the full picture for every row it shows first.
-QImage thumbnailOf(const QString& pictureFile) {
-    QImageReader reader(pictureFile, "png");
-    reader.setAutoDetectImageFormat(false);
-    return QPixmap::fromImage(reader.read())
+// The pixels as the program keeps them: RGBA8888 premultiplied, row by row, which reads the
+// same whatever the byte order of the machine.
+QByteArray rawPixels(const QImage& image) {
+    const QImage rgba = image.convertToFormat(QImage::Format_RGBA8888_Premultiplied);
+    QByteArray bytes;
+    bytes.reserve(static_cast<qsizetype>(rgba.width()) * rgba.height() * 4);
+    for (int y = 0; y < rgba.height(); ++y) {
+        bytes.append(reinterpret_cast<const char*>(rgba.constScanLine(y)),
+                     static_cast<qsizetype>(rgba.width()) * 4);
+    }
+    return bytes;
+}
+
+// The table's small copy of a picture, made as the table would make it from the picture the
+// program keeps: that picture in a pixmap, scaled smoothly.
+QImage thumbnailOf(const QImage& picture) {
+    const QImage kept = picture.convertToFormat(QImage::Format_RGBA8888_Premultiplied);
+    return QPixmap::fromImage(kept)
         .scaled(tarnic::kThumbnailEdge, tarnic::kThumbnailEdge, Qt::KeepAspectRatio,
                 Qt::SmoothTransformation)
         .toImage();
 }
 
+// One picture as the program keeps it: for a view `edge` pixels square on a screen of device
+// pixel ratio `ratio`.
+struct Version {
+    int edge;
+    int ratio;
+};
+
+// An ability's picture is shown in the ability view; an owner's (and "empty") in the owner view,
+// and there on screens of ratio 1 and 2 alike. A name that is both keeps the owner's emblem in
+// both views.
+std::vector<Version> versionsOf(bool isAbility, Kind kind) {
+    std::vector<Version> versions;
+    if (isAbility) {
+        versions.push_back({tarnic::kAbilityPictureEdge, 1});
+    }
+    if (kind != Kind::Ability) {
+        versions.push_back({tarnic::kOwnerPictureEdge, 1});
+        versions.push_back({tarnic::kOwnerPictureEdge, 2});
+    }
+    return versions;
+}
+
+bool writeFile(const QString& path, const QByteArray& bytes) {
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+}
+
+// Copies the pixels of a style image of Qt's as gui/StyleImages.h describes; the qrc entries for
+// them, or an empty text when this Qt has no such image (the program then reads Qt's file).
+QString copyStyleImage(const QDir& out, const QString& qtFile, const QString& name) {
+    const QFileInfo file(qtFile);
+    const QImage image(qtFile);
+    if (!file.exists() || image.isNull()) {
+        return {};
+    }
+    const QByteArray source = QByteArray::number(image.width()) + ' ' +
+                              QByteArray::number(image.height()) + ' ' +
+                              QByteArray::number(file.size()) + ' ' +
+                              QByteArray::number(file.lastModified().toSecsSinceEpoch()) + '\n';
+    const QString pixelsFile = name + QStringLiteral(".rgba");
+    const QString sourceFile = name + QStringLiteral(".source");
+    if (!writeFile(out.filePath(pixelsFile), rawPixels(image)) ||
+        !writeFile(out.filePath(sourceFile), source)) {
+        return {};
+    }
+    return QStringLiteral("        <file alias=\"%1\" compression-algorithm=\"none\">%2</file>\n"
+                          "        <file alias=\"%1.source\">%3</file>\n")
+        .arg(name, pixelsFile, sourceFile);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
-    QGuiApplication app(argc, argv);
+    // QApplication: Qt's own style images are resources of its widgets library.
+    QApplication app(argc, argv);
     if (argc != 2) {
         std::fprintf(stderr, "usage: tarnic-imagegen <output folder>\n");
         return 2;
@@ -216,69 +288,89 @@ int main(int argc, char** argv) {
     }
 
     // An owner's name may also be an ability's name; the owner's picture wins.
-    std::map<QString, Kind> pictures;
+    std::map<QString, std::pair<Kind, bool>> pictures; // name: kind, and whether an ability
     for (const auto& record : tarnic::all_data()) {
-        pictures.try_emplace(QString::fromStdString(record.at(tarnic::name_spell)), Kind::Ability);
+        pictures[QString::fromStdString(record.at(tarnic::name_spell))] = {Kind::Ability, true};
     }
     for (const auto& record : tarnic::all_data()) {
         if (const auto it = record.find(tarnic::name_parent); it != record.end()) {
-            pictures[QString::fromStdString(it->second)] = Kind::Owner;
+            pictures[QString::fromStdString(it->second)].first = Kind::Owner;
         }
     }
-    pictures[QStringLiteral("empty")] = Kind::Empty;
+    pictures[QStringLiteral("empty")].first = Kind::Empty;
 
     QString pictureEntries;
+    QString pngEntries;
     QByteArray thumbnailNames;
     QByteArray thumbnailPixels;
     int n = 0;
-    for (const auto& [name, kind] : pictures) {
-        const QString file = QStringLiteral("picture%1.png").arg(n++, 3, 10, QLatin1Char('0'));
-        if (!drawEmblem(name, kind).save(out.filePath(file), "PNG")) {
-            std::fprintf(stderr, "tarnic-imagegen: cannot write %s\n", qPrintable(file));
-            return 1;
+    for (const auto& [name, what] : pictures) {
+        const auto [kind, isAbility] = what;
+        for (const Version version : versionsOf(isAbility, kind)) {
+            const QImage picture = drawEmblem(name, kind, version.edge * version.ratio);
+            const QString file = QStringLiteral("picture%1.png").arg(n++, 3, 10, QLatin1Char('0'));
+            if (!picture.save(out.filePath(file), "PNG")) {
+                std::fprintf(stderr, "tarnic-imagegen: cannot write %s\n", qPrintable(file));
+                return 1;
+            }
+            const QString rawFile = file.chopped(4) + QStringLiteral(".rgba");
+            if (!writeFile(out.filePath(rawFile), rawPixels(picture))) {
+                std::fprintf(stderr, "tarnic-imagegen: cannot write %s\n", qPrintable(rawFile));
+                return 1;
+            }
+            const QString alias = QStringLiteral("%1@%2x/%3")
+                                      .arg(QString::number(version.edge),
+                                           QString::number(version.ratio), xmlEscaped(name));
+            // The pixels stay uncompressed, so that the program reads them in place.
+            pictureEntries +=
+                QStringLiteral("        <file alias=\"%1\" compression-algorithm=\"none\">"
+                               "%2</file>\n")
+                    .arg(alias, rawFile);
+            pngEntries +=
+                QStringLiteral("        <file alias=\"%1.png\">%2</file>\n").arg(alias, file);
         }
-        const QImage thumbnail =
-            thumbnailOf(out.filePath(file)).convertToFormat(QImage::Format_RGBA8888_Premultiplied);
+        // Every name has its small copy, made from the picture at the ability view's size.
+        const QImage thumbnail = thumbnailOf(drawEmblem(name, kind, tarnic::kAbilityPictureEdge));
         if (thumbnail.width() != tarnic::kThumbnailEdge ||
             thumbnail.height() != tarnic::kThumbnailEdge) {
-            std::fprintf(stderr, "tarnic-imagegen: %s is not square\n", qPrintable(file));
+            std::fprintf(stderr, "tarnic-imagegen: the copy of %s is not square\n",
+                         qPrintable(name));
             return 1;
         }
-        for (int y = 0; y < thumbnail.height(); ++y) {
-            thumbnailPixels.append(reinterpret_cast<const char*>(thumbnail.constScanLine(y)),
-                                   static_cast<qsizetype>(thumbnail.width()) * 4);
-        }
+        thumbnailPixels += rawPixels(thumbnail);
         thumbnailNames += name.toUtf8() + '\n';
-        pictureEntries += QStringLiteral("        <file alias=\"%1.png\">%2</file>\n")
-                              .arg(xmlEscaped(name), file);
     }
     for (const auto& [file, bytes] :
          {std::pair{QStringLiteral("thumbnails.names"), thumbnailNames},
           std::pair{QStringLiteral("thumbnails.pixels"), thumbnailPixels}}) {
-        QSaveFile data(out.filePath(file));
-        if (!data.open(QIODevice::WriteOnly) || data.write(bytes) != bytes.size() ||
-            !data.commit()) {
+        if (!writeFile(out.filePath(file), bytes)) {
             std::fprintf(stderr, "tarnic-imagegen: cannot write %s\n", qPrintable(file));
             return 1;
         }
     }
-    // The pixels stay uncompressed, so that the program reads them in place.
+    const QString styleEntries =
+        copyStyleImage(out, tarnic::groupBoxFramePath(), QStringLiteral("fusion_groupbox"));
     const QString qrc =
         QStringLiteral("<!DOCTYPE RCC>\n<RCC version=\"1.0\">\n"
-                       "    <qresource prefix=\"/images\">\n") +
+                       "    <qresource prefix=\"/pictures\">\n") +
         pictureEntries +
         QStringLiteral("    </qresource>\n"
                        "    <qresource prefix=\"/thumbnails\">\n"
                        "        <file alias=\"names\">thumbnails.names</file>\n"
                        "        <file alias=\"pixels\" compression-algorithm=\"none\">"
                        "thumbnails.pixels</file>\n"
-                       "    </qresource>\n</RCC>\n");
-
-    QSaveFile qrcFile(out.filePath(QStringLiteral("images.qrc")));
-    if (!qrcFile.open(QIODevice::WriteOnly) || qrcFile.write(qrc.toUtf8()) < 0 ||
-        !qrcFile.commit()) {
-        std::fprintf(stderr, "tarnic-imagegen: cannot write images.qrc\n");
-        return 1;
+                       "    </qresource>\n"
+                       "    <qresource prefix=\"/style-images\">\n") +
+        styleEntries + QStringLiteral("    </qresource>\n</RCC>\n");
+    const QString filesQrc = QStringLiteral("<!DOCTYPE RCC>\n<RCC version=\"1.0\">\n"
+                                            "    <qresource prefix=\"/picture-files\">\n") +
+                             pngEntries + QStringLiteral("    </qresource>\n</RCC>\n");
+    for (const auto& [file, text] : {std::pair{QStringLiteral("picture-files.qrc"), filesQrc},
+                                     std::pair{QStringLiteral("pictures.qrc"), qrc}}) {
+        if (!writeFile(out.filePath(file), text.toUtf8())) {
+            std::fprintf(stderr, "tarnic-imagegen: cannot write %s\n", qPrintable(file));
+            return 1;
+        }
     }
     return 0;
 }
