@@ -12,8 +12,12 @@
 #include "support/XvfbSession.h"
 
 #include <QProcess>
+#include <QStringList>
 
 #include <gtest/gtest.h>
+
+#include <mutex>
+#include <thread>
 
 // Last: Xlib's macros (None, Bool) break the headers above.
 #include <X11/XKBlib.h>
@@ -170,6 +174,32 @@ TEST_F(X11KeyLabelsTest, ABurstOfNotificationsIsReadOnceAfterItSettles) {
     ASSERT_TRUE(test::processUntil([&] { return changes > 0; }, 10s));
     EXPECT_EQ(changes, 1);
     EXPECT_EQ(labels.keysymAt(12), std::uint32_t{'a'});
+}
+
+// The key thread reads this connection's events in the middle of a key: a change of layout it
+// reads there is still followed, from the main thread, and no Qt object is touched from the key
+// thread meanwhile.
+TEST_F(X11KeyLabelsTest, ALayoutChangeReadOnTheKeyThreadIsFollowed) {
+    x11::X11KeyLabels labels(connection);
+    int changes = 0;
+    labels.addChangeMonitor([&changes] { ++changes; });
+    static QStringList warnings;
+    warnings.clear();
+    const QtMessageHandler previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString& message) { warnings << message; });
+    setLayout({"fr"});
+    std::thread keyThread([this] {
+        const std::lock_guard lock(*connection->lock());
+        if (connection->syncSucceeded()) {
+            connection->eventPump().readPending();
+        }
+    });
+    keyThread.join();
+    const bool followed = test::processUntil([&] { return changes > 0; }, 10s);
+    qInstallMessageHandler(previous);
+    EXPECT_TRUE(followed);
+    EXPECT_EQ(labels.keysymAt(12), std::uint32_t{'a'});
+    EXPECT_TRUE(warnings.isEmpty()) << warnings.join('\n').toStdString();
 }
 
 TEST_F(X11KeyLabelsTest, ModifiersAndTheSameKeymapAgainTellNobody) {

@@ -4,6 +4,8 @@
 #include "platform/x11/X11EventPump.h"
 #include "platform/x11/X11KeyCodes.h"
 
+#include <QThread>
+
 #include <X11/XKBlib.h>
 #include <X11/Xlib.h>
 
@@ -70,10 +72,25 @@ X11KeyLabels::X11KeyLabels(std::shared_ptr<X11Connection> connection)
     X11EventPump& pump = connection_->eventPump();
     listener_ = pump.addListener([this](XEvent& event) { takeIn(event); },
                                  [this] {
-                                     if (std::exchange(changed_, false) && !settle_.isActive()) {
-                                         settle_.start();
+                                     if (std::exchange(changed_, false)) {
+                                         settleSoon();
                                      }
                                  });
+}
+
+void X11KeyLabels::settleSoon() {
+    const auto start = [this] {
+        if (!settle_.isActive()) {
+            settle_.start();
+        }
+    };
+    // The key thread reads this connection's events too, in the middle of a key; the timer
+    // belongs to the main thread, so from there the start is posted to it.
+    if (QThread::currentThread() == settle_.thread()) {
+        start();
+    } else {
+        QMetaObject::invokeMethod(&settle_, start, Qt::QueuedConnection);
+    }
 }
 
 X11KeyLabels::~X11KeyLabels() {

@@ -53,6 +53,8 @@ private:
     // Reads the layout; true when a key position's keysym changed.
     bool reread();
     void rereadAndTell();
+    // Starts the settle timer unless it runs, from whichever thread read the notifications.
+    void settleSoon();
 
     std::shared_ptr<X11Connection> connection_;
     std::map<int, std::uint32_t> keysyms_;
