@@ -436,8 +436,9 @@ int main(int argc, char** argv) {
                         server.display.c_str(), runs, sysconf(_SC_NPROCESSORS_ONLN));
             std::printf("Load average (1, 5, 15 min) before: %s, after: %s; nice %d\n",
                         loadBefore.c_str(), loadAfter.c_str(), getpriority(PRIO_PROCESS, 0));
-            std::printf("The app runs as main builds it, without the version gate (no site "
-                        "address: a network check after the window is up).\n");
+            std::printf("The app starts through main's own launch (one-copy check included), "
+                        "without the version gate (no site address: a network check after the "
+                        "window is up).\n");
             std::printf("Both quit once their table's first paint has been handled, before what "
                         "the app keeps for after its first frame (the icon-theme lookup); the "
                         "+after-paint row quits once that is done too.\n\n");
