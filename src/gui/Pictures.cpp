@@ -2,8 +2,6 @@
 
 #include "gui/GuiResources.h"
 
-#include <QByteArray>
-#include <QHash>
 #include <QImage>
 #include <QResource>
 
@@ -34,31 +32,6 @@ QImage imageAt(const PixelData& data, qsizetype offset, int pixels) {
     }
     return QImage(data.pixels + offset, pixels, pixels, qsizetype{pixels} * 4,
                   QImage::Format_RGBA8888_Premultiplied);
-}
-
-constexpr qsizetype kThumbnailBytes = qsizetype{kThumbnailEdge} * kThumbnailEdge * 4;
-
-struct ThumbnailSheet {
-    QHash<QString, qsizetype> offsets;
-    PixelData data;
-};
-
-const ThumbnailSheet& thumbnailSheet() {
-    static const ThumbnailSheet sheet = [] {
-        initGuiResources();
-        ThumbnailSheet made;
-        made.data = uncompressed(QStringLiteral(":/thumbnails/pixels"));
-        const QByteArray names = QResource(QStringLiteral(":/thumbnails/names")).uncompressedData();
-        qsizetype offset = 0;
-        for (const QByteArray& name : names.split('\n')) {
-            if (!name.isEmpty()) {
-                made.offsets.insert(QString::fromUtf8(name), offset);
-                offset += kThumbnailBytes;
-            }
-        }
-        return made;
-    }();
-    return sheet;
 }
 
 // The sizes the picture tool draws at, as (edge, ratio): most pixels first.
@@ -123,16 +96,13 @@ QPixmap pictureNamed(const QString& name, int edge, qreal devicePixelRatio) {
 }
 
 QPixmap thumbnailNamed(const QString& name) {
-    const ThumbnailSheet& sheet = thumbnailSheet();
-    const auto found = sheet.offsets.constFind(name);
-    if (found == sheet.offsets.constEnd()) {
+    initGuiResources();
+    const PixelData data = uncompressed(QStringLiteral(":/thumbnails/") + name);
+    if (data.size != qsizetype{kThumbnailEdge} * kThumbnailEdge * 4) {
         return {};
     }
-    const QImage image = imageAt(sheet.data, found.value(), kThumbnailEdge);
-    if (image.isNull()) {
-        return {};
-    }
-    return QPixmap::fromImage(image.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+    return QPixmap::fromImage(
+        imageAt(data, 0, kThumbnailEdge).convertToFormat(QImage::Format_ARGB32_Premultiplied));
 }
 
 } // namespace tarnic

@@ -14,8 +14,7 @@ inline constexpr int kOwnerPictureEdge = 40;
 // table. The picture tool makes these copies at build time, from each picture as drawn at
 // kAbilityPictureEdge, exactly as
 // pictureNamed(name, kAbilityPictureEdge).scaled(edge, edge, Qt::KeepAspectRatio,
-// Qt::SmoothTransformation) would, and keeps them ready to show: ":/thumbnails/names" lists the
-// names, one per line (UTF-8), and ":/thumbnails/pixels" holds, for each name in that order,
+// Qt::SmoothTransformation) would, and keeps them ready to show: ":/thumbnails/<name>" holds
 // edge x edge pixels in RGBA8888 premultiplied, row by row, uncompressed. The table shows its first
 // rows without decoding a single picture.
 inline constexpr int kThumbnailEdge = 20;

@@ -249,6 +249,12 @@ bool writeFile(const QString& path, const QByteArray& bytes) {
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
 }
 
+// The qrc entry for raw pixels: they stay uncompressed, so that the program reads them in place.
+QString rawEntry(const QString& alias, const QString& file) {
+    return QStringLiteral("        <file alias=\"%1\" compression-algorithm=\"none\">%2</file>\n")
+        .arg(alias, file);
+}
+
 // Copies the pixels of a style image of Qt's as gui/StyleImages.h describes; the qrc entries for
 // them, or an empty text when this Qt has no such image (the program then reads Qt's file).
 QString copyStyleImage(const QDir& out, const QString& qtFile, const QString& name) {
@@ -267,9 +273,8 @@ QString copyStyleImage(const QDir& out, const QString& qtFile, const QString& na
         !writeFile(out.filePath(sourceFile), source)) {
         return {};
     }
-    return QStringLiteral("        <file alias=\"%1\" compression-algorithm=\"none\">%2</file>\n"
-                          "        <file alias=\"%1.source\">%3</file>\n")
-        .arg(name, pixelsFile, sourceFile);
+    return rawEntry(name, pixelsFile) +
+           QStringLiteral("        <file alias=\"%1.source\">%2</file>\n").arg(name, sourceFile);
 }
 
 } // namespace
@@ -300,9 +305,8 @@ int main(int argc, char** argv) {
     pictures[QStringLiteral("empty")].first = Kind::Empty;
 
     QString pictureEntries;
+    QString thumbnailEntries;
     QString pngEntries;
-    QByteArray thumbnailNames;
-    QByteArray thumbnailPixels;
     int n = 0;
     for (const auto& [name, what] : pictures) {
         const auto [kind, isAbility] = what;
@@ -321,11 +325,7 @@ int main(int argc, char** argv) {
             const QString alias = QStringLiteral("%1@%2x/%3")
                                       .arg(QString::number(version.edge),
                                            QString::number(version.ratio), xmlEscaped(name));
-            // The pixels stay uncompressed, so that the program reads them in place.
-            pictureEntries +=
-                QStringLiteral("        <file alias=\"%1\" compression-algorithm=\"none\">"
-                               "%2</file>\n")
-                    .arg(alias, rawFile);
+            pictureEntries += rawEntry(alias, rawFile);
             pngEntries +=
                 QStringLiteral("        <file alias=\"%1.png\">%2</file>\n").arg(alias, file);
         }
@@ -337,31 +337,25 @@ int main(int argc, char** argv) {
                          qPrintable(name));
             return 1;
         }
-        thumbnailPixels += rawPixels(thumbnail);
-        thumbnailNames += name.toUtf8() + '\n';
-    }
-    for (const auto& [file, bytes] :
-         {std::pair{QStringLiteral("thumbnails.names"), thumbnailNames},
-          std::pair{QStringLiteral("thumbnails.pixels"), thumbnailPixels}}) {
-        if (!writeFile(out.filePath(file), bytes)) {
-            std::fprintf(stderr, "tarnic-imagegen: cannot write %s\n", qPrintable(file));
+        const QString thumbnailFile =
+            QStringLiteral("thumbnail%1.rgba").arg(n++, 3, 10, QLatin1Char('0'));
+        if (!writeFile(out.filePath(thumbnailFile), rawPixels(thumbnail))) {
+            std::fprintf(stderr, "tarnic-imagegen: cannot write %s\n", qPrintable(thumbnailFile));
             return 1;
         }
+        thumbnailEntries += rawEntry(xmlEscaped(name), thumbnailFile);
     }
     const QString styleEntries =
         copyStyleImage(out, tarnic::groupBoxFramePath(), QStringLiteral("fusion_groupbox"));
-    const QString qrc =
-        QStringLiteral("<!DOCTYPE RCC>\n<RCC version=\"1.0\">\n"
-                       "    <qresource prefix=\"/pictures\">\n") +
-        pictureEntries +
-        QStringLiteral("    </qresource>\n"
-                       "    <qresource prefix=\"/thumbnails\">\n"
-                       "        <file alias=\"names\">thumbnails.names</file>\n"
-                       "        <file alias=\"pixels\" compression-algorithm=\"none\">"
-                       "thumbnails.pixels</file>\n"
-                       "    </qresource>\n"
-                       "    <qresource prefix=\"/style-images\">\n") +
-        styleEntries + QStringLiteral("    </qresource>\n</RCC>\n");
+    const QString qrc = QStringLiteral("<!DOCTYPE RCC>\n<RCC version=\"1.0\">\n"
+                                       "    <qresource prefix=\"/pictures\">\n") +
+                        pictureEntries +
+                        QStringLiteral("    </qresource>\n"
+                                       "    <qresource prefix=\"/thumbnails\">\n") +
+                        thumbnailEntries +
+                        QStringLiteral("    </qresource>\n"
+                                       "    <qresource prefix=\"/style-images\">\n") +
+                        styleEntries + QStringLiteral("    </qresource>\n</RCC>\n");
     const QString filesQrc = QStringLiteral("<!DOCTYPE RCC>\n<RCC version=\"1.0\">\n"
                                             "    <qresource prefix=\"/picture-files\">\n") +
                              pngEntries + QStringLiteral("    </qresource>\n</RCC>\n");
