@@ -9,6 +9,9 @@
 #include <cstdint>
 #include <cstdlib>
 #include <limits>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace tarnic {
 
@@ -56,30 +59,65 @@ plist_t arrayNode(const QVariantList& list) {
     return array;
 }
 
-template <class Map> plist_t dictNode(const Map& map) {
+plist_t dictNode(const QVariantMap& map) {
     plist_t dict = plist_new_dict();
-    // QVariantMap is already sorted; a QVariantHash is sorted here so that the bytes are stable.
-    QStringList keys = map.keys();
+    // In key order, as the map keeps them, so that the bytes are stable.
+    for (auto it = map.cbegin(); it != map.cend(); ++it) {
+        if (plist_t node = plistFromVariant(it.value())) {
+            plist_dict_set_item(dict, it.key().toUtf8().constData(), node);
+        }
+    }
+    return dict;
+}
+
+plist_t dictNode(const QVariantHash& hash) {
+    plist_t dict = plist_new_dict();
+    // A hash has no order: its keys are sorted here so that the bytes are stable.
+    QStringList keys = hash.keys();
     std::sort(keys.begin(), keys.end());
     for (const QString& key : keys) {
-        if (plist_t node = plistFromVariant(map.value(key))) {
+        if (plist_t node = plistFromVariant(hash.value(key))) {
             plist_dict_set_item(dict, key.toUtf8().constData(), node);
         }
     }
     return dict;
 }
 
-QVariant listFromArray(plist_t array) {
+// The keys of a list of dictionaries repeat from one dictionary to the next: each is made once
+// and shared by every map that has it.
+class KeyTexts {
+public:
+    QString text(const char* key) {
+        for (const auto& [bytes, text] : seen_) {
+            if (bytes == key) {
+                return text;
+            }
+        }
+        QString text = QString::fromUtf8(key);
+        if (seen_.size() < kKept) {
+            seen_.emplace_back(key, text);
+        }
+        return text;
+    }
+
+private:
+    static constexpr std::size_t kKept = 16;
+    std::vector<std::pair<std::string, QString>> seen_;
+};
+
+QVariant variantOf(plist_t node, KeyTexts& keys);
+
+QVariant listFromArray(plist_t array, KeyTexts& keys) {
     QVariantList list;
     const std::uint32_t size = plist_array_get_size(array);
     list.reserve(static_cast<qsizetype>(size));
     for (std::uint32_t i = 0; i < size; ++i) {
-        list.append(variantFromPlist(plist_array_get_item(array, i)));
+        list.append(variantOf(plist_array_get_item(array, i), keys));
     }
     return list;
 }
 
-QVariant mapFromDict(plist_t dict) {
+QVariant mapFromDict(plist_t dict, KeyTexts& keys) {
     QVariantMap map;
     plist_dict_iter it = nullptr;
     plist_dict_new_iter(dict, &it);
@@ -93,8 +131,15 @@ QVariant mapFromDict(plist_t dict) {
         if (key == nullptr) {
             break;
         }
-        map.insert(QString::fromUtf8(key), variantFromPlist(value));
+        // Written in key order, most often: each key then goes in at the end without a search.
+        const QString text = keys.text(key);
         std::free(key);
+        QVariant item = variantOf(value, keys);
+        if (!map.isEmpty() && (map.lastKey() < text)) {
+            map.insert(map.cend(), text, std::move(item));
+        } else {
+            map.insert(text, std::move(item));
+        }
     }
     std::free(it);
     return map;
@@ -152,7 +197,9 @@ plist_t plistFromVariant(const QVariant& value) {
     }
 }
 
-QVariant variantFromPlist(plist_t node) {
+namespace {
+
+QVariant variantOf(plist_t node, KeyTexts& keys) {
     switch (plist_get_node_type(node)) {
     case PLIST_BOOLEAN: {
         std::uint8_t flag = 0;
@@ -193,13 +240,20 @@ QVariant variantFromPlist(plist_t node) {
         return QVariant(QDateTime::fromMSecsSinceEpoch(msecs, Qt::UTC));
     }
     case PLIST_ARRAY:
-        return listFromArray(node);
+        return listFromArray(node, keys);
     case PLIST_DICT:
-        return mapFromDict(node);
+        return mapFromDict(node, keys);
     case PLIST_NONE:
         break;
     }
     return {};
+}
+
+} // namespace
+
+QVariant variantFromPlist(plist_t node) {
+    KeyTexts keys;
+    return variantOf(node, keys);
 }
 
 } // namespace tarnic

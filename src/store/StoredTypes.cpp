@@ -4,6 +4,7 @@
 #include "store/IntegerValue.h"
 
 #include <QAnyStringView>
+#include <QStringEncoder>
 #include <QStringList>
 #include <QUtf8StringView>
 
@@ -16,6 +17,15 @@ namespace {
 bool isList(const QVariant& value) {
     const int type = value.typeId();
     return type == QMetaType::QVariantList || type == QMetaType::QStringList;
+}
+
+// UTF-8 straight into the string, without a QByteArray on the way.
+std::string utf8Of(QStringView text) {
+    QStringEncoder encoder(QStringEncoder::Utf8);
+    std::string bytes(static_cast<std::size_t>(encoder.requiredSpace(text.size())), '\0');
+    char* const end = encoder.appendToBuffer(bytes.data(), text);
+    bytes.resize(static_cast<std::size_t>(end - bytes.data()));
+    return bytes;
 }
 
 bool isDictionary(const QVariant& value) {
@@ -36,7 +46,10 @@ std::optional<AbilityRecord> recordFromStored(const QVariant& value, WrongType& 
                           " value under \"" + it.key().toStdString() + "\"";
             return std::nullopt;
         }
-        record.emplace(it.key().toStdString(), it.value().toString().toStdString());
+        // The map is in key order already, which the record keeps too for keys in ASCII: each
+        // goes in at the end without a search.
+        record.emplace_hint(record.end(), utf8Of(it.key()),
+                            utf8Of(*static_cast<const QString*>(it.value().constData())));
     }
     return record;
 }
@@ -98,7 +111,7 @@ QVariant abilityListToStored(const std::vector<AbilityRecord>& list) {
     for (const AbilityRecord& record : list) {
         QVariantMap map;
         for (const auto& [key, text] : record) {
-            map.insert(QString::fromStdString(key), QString::fromStdString(text));
+            map.insert(map.cend(), QString::fromStdString(key), QString::fromStdString(text));
         }
         items.append(map);
     }

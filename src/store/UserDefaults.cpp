@@ -48,6 +48,10 @@ bool UserDefaults::hasMainDic() const {
     return settings_.contains(kMainDic);
 }
 
+bool UserDefaults::fileIsCurrent() const {
+    return settingsWritten(settings_);
+}
+
 bool UserDefaults::setMainDic(const std::vector<AbilityRecord>& list) {
     settings_.setValue(kMainDic, abilityListToStored(list));
     return writeSettings(settings_);

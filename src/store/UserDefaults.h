@@ -45,6 +45,9 @@ public:
     std::optional<std::vector<AbilityRecord>> mainDic() const;
     // Whether the store holds a list at all (of whatever type).
     bool hasMainDic() const;
+    // Whether the file holds everything set so far: false after a write that failed, until one
+    // works.
+    bool fileIsCurrent() const;
     bool setMainDic(const std::vector<AbilityRecord>& list);
     // setMainDic, unless the store holds exactly this list already: the program stores the list
     // it shows at every start, most often the very list it has just read, and a rewrite that

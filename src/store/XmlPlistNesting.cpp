@@ -8,6 +8,22 @@ namespace {
 
 constexpr std::size_t kNone = std::string_view::npos;
 
+// What ends a tag's name, as libplist reads it.
+bool endsName(char c) {
+    switch (c) {
+    case ' ':
+    case '\t':
+    case '\r':
+    case '\n':
+    case '<':
+    case '>':
+    case '/':
+        return true;
+    default:
+        return false;
+    }
+}
+
 bool sameName(std::string_view name, std::string_view expected) {
     if (name.size() != expected.size()) {
         return false;
@@ -38,6 +54,26 @@ public:
                 }
             } else if (stops.find(text_[at]) != kNone) {
                 return at;
+            }
+        }
+        return kNone;
+    }
+    // The end of a tag: the first '>' or '<' at or after `from`, quoted strings passed over;
+    // kNone if none. As findOutsideQuotes(from, "<>"), one character at a time.
+    std::size_t endOfTag(std::size_t from) const {
+        for (std::size_t at = from; at < text_.size(); ++at) {
+            switch (text_[at]) {
+            case '"':
+                at = text_.find('"', at + 1);
+                if (at == kNone) {
+                    return kNone;
+                }
+                break;
+            case '<':
+            case '>':
+                return at;
+            default:
+                break;
             }
         }
         return kNone;
@@ -102,12 +138,15 @@ bool xmlPlistNestsWithin(std::string_view text, int maxDepth) {
         }
         const bool closing = at + 1 < text.size() && text[at + 1] == '/';
         const std::size_t nameStart = at + (closing ? 2 : 1);
-        std::size_t nameEnd = text.find_first_of(" \t\r\n<>/", nameStart);
-        if (nameEnd == kNone) {
+        std::size_t nameEnd = nameStart;
+        while (nameEnd < text.size() && !endsName(text[nameEnd])) {
+            ++nameEnd;
+        }
+        if (nameEnd == text.size()) {
             break;
         }
         const std::string_view name = text.substr(nameStart, nameEnd - nameStart);
-        const std::size_t end = lexer.findOutsideQuotes(nameEnd, "<>");
+        const std::size_t end = lexer.endOfTag(nameEnd);
         if (end == kNone) {
             break;
         }

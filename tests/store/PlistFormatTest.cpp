@@ -165,6 +165,28 @@ TEST(PlistFormat, HashKeysAreWrittenInOrder) {
     EXPECT_EQ(read->value(QStringLiteral("hash")).toMap().size(), 6);
 }
 
+TEST(PlistFormat, KeysOutOfOrderAndManyDistinctKeysReadBackExactly) {
+    // Written by hand, out of order: each key still lands in its place, and keys beyond those
+    // that dictionaries share read back whole.
+    QString dicts;
+    QVariantList expected;
+    for (int d = 0; d < 3; ++d) {
+        QVariantMap map;
+        QString xml = QStringLiteral("<dict>");
+        for (int k = 40; k >= 0; --k) {
+            const QString key = QStringLiteral("k%1-\u00e9%2").arg(k).arg(d * (k % 2));
+            xml += QStringLiteral("<key>%1</key><string>v%2</string>").arg(key).arg(k);
+            map.insert(key, QStringLiteral("v%1").arg(k));
+        }
+        dicts += xml + QStringLiteral("</dict>");
+        expected.append(map);
+    }
+    const std::optional<QSettings::SettingsMap> read = settingsFromPlist(
+        plistXml("<dict><key>list</key><array>" + dicts.toUtf8() + "</array></dict>"));
+    ASSERT_TRUE(read.has_value());
+    EXPECT_TRUE(sameTyped(expected, read->value(QStringLiteral("list"))));
+}
+
 TEST(PlistFormat, StringDigitsStayAStringAndIntegersStayIntegers) {
     const std::optional<QSettings::SettingsMap> read = settingsFromPlist(
         plistXml("<dict><key>s</key><string>5</string><key>i</key><integer>5</integer>"

@@ -47,6 +47,19 @@ TEST(StoredTypes, AbilityListKeepsMissingAndEmptyKeysApart) {
     EXPECT_EQ(back[2].at("name parent"), "");
 }
 
+TEST(StoredTypes, AbilityListKeepsTextBeyondAsciiByteForByte) {
+    // Keys in an order of their own beyond ASCII (a private-use character sorts before an emoji
+    // in UTF-16 and after it in UTF-8), texts in several scripts and a long one.
+    const AbilityRecord record{{"name", "Sort\u00e9e \u2714\ufe0e"},
+                               {"\ue000 private", "\U0001F600"},
+                               {"\U0001F600 emoji", "\u65e5\u672c\u8a9e"},
+                               {"for edit", std::string(5000, 'x') + "\u00fc"}};
+    const std::vector<AbilityRecord> list{record, record};
+    auto read = abilityListFromStored(abilityListToStored(list));
+    ASSERT_TRUE(std::holds_alternative<std::vector<AbilityRecord>>(read));
+    EXPECT_EQ(std::get<std::vector<AbilityRecord>>(read), list);
+}
+
 TEST(StoredTypes, AbilityListNamesWhatWasFoundInstead) {
     EXPECT_EQ(foundForList(QStringLiteral("list")), "string");
     EXPECT_EQ(foundForList(integer(1)), "integer");
