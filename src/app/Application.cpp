@@ -23,16 +23,17 @@ const QString kDesktopId = QStringLiteral("org.tarnic.TarnicPro");
 // start's store gets the catalogue there as well, just as the editor would store it when the
 // view loads (it then finds the list already there): the write and its flushes to disk overlap
 // the building of the window instead of holding up the first frame.
-std::future<std::unique_ptr<QSettings>> readStore() {
+std::future<Application::OpenedStore> readStore() {
     QThread* const user = QThread::currentThread();
     return std::async(std::launch::async, [user] {
-        std::unique_ptr<QSettings> store = openUserDefaults();
-        UserDefaults defaults(*store);
+        Application::OpenedStore opened{openUserDefaults()};
+        UserDefaults defaults(*opened.settings);
         if (!defaults.hasMainDic()) {
             defaults.setMainDic(all_data());
+            opened.catalogueStored = true;
         }
-        store->moveToThread(user);
-        return store;
+        opened.settings->moveToThread(user);
+        return opened;
     });
 }
 
@@ -50,10 +51,10 @@ Application::Options::Options() : siteUrl(siteBaseUrl()) {}
 Application::Application(Platform platform, Options options)
     : options_(std::move(options)), fatalAlerts_(options_.alerts), storeReading_(readStore()),
       platform_(std::move(platform)), store_(FatalAlerts::take(storeReading_)),
-      programOptions_(openProgramOptions()), editor_(*store_, programOptions_.get()),
+      programOptions_(openProgramOptions()), editor_(*store_.settings, programOptions_.get()),
       // The import reports through the same seam as the version gate.
       fileExchange_(editor_, alerts()),
-      inventoryPanel_(*store_, *programOptions_, inventoryBindings_),
+      inventoryPanel_(*store_.settings, *programOptions_, inventoryBindings_),
       tapRelay_([this](const SlotTap& tap) { inventoryPanel_.showTap(tap); }),
       remapperSession_(platform_),
       delegate_(*platform_.accessibilityTrust, options_.siteUrl, alerts()) {
@@ -101,6 +102,9 @@ void Application::start() {
     // The view loads: the bindings before the list, as a store of the wrong type must end the
     // program the same way whichever key is damaged first.
     inventoryPanel_.loadBindings();
+    if (store_.catalogueStored) {
+        editor_.storeHoldsCatalogue();
+    }
     editor_.viewDidLoad();
     fileExchange_.viewDidLoad();
     inventoryPanel_.viewDidLoad();
@@ -130,7 +134,7 @@ void Application::start() {
     // first frame.
     afterFirstPaint_ = std::make_unique<AfterFirstPaint>(
         *editor_.tableView().viewport(), options_.launchAtTheLatest,
-        [this, &alerts, aside = storeSetAsideAs(*store_)] {
+        [this, &alerts, aside = storeSetAsideAs(*store_.settings)] {
             // Queued, so that it comes while the check waits for the site.
             QTimer::singleShot(0, &window_, [this, &alerts, aside] {
                 QApplication::setWindowIcon(QIcon::fromTheme(kDesktopId));

@@ -38,6 +38,12 @@ void setApplicationIdentity();
 // window tests run one on the recording fakes.
 class Application {
 public:
+    // The store as the thread that reads it at start hands it over.
+    struct OpenedStore {
+        std::unique_ptr<QSettings> settings;
+        // The store was empty, and the thread has stored the catalogue in it.
+        bool catalogueStored = false;
+    };
     // What differs between the program and its tests. The program uses the defaults.
     struct Options {
         // The maker's site, for the version gate.
@@ -67,7 +73,7 @@ public:
     // frame shows the icon. Call once.
     void start();
 
-    QSettings& store() { return *store_; }
+    QSettings& store() { return *store_.settings; }
     Platform& platform() { return platform_; }
     EditorController& editor() { return editor_; }
     FileExchangeController& fileExchange() { return fileExchange_; }
@@ -95,10 +101,10 @@ private:
     // The store is read on a thread of its own while the window is built: reading and parsing the
     // whole list is the largest piece of start-up that needs no GUI. It is waited for before the
     // controllers, the first to use it.
-    std::future<std::unique_ptr<QSettings>> storeReading_;
+    std::future<OpenedStore> storeReading_;
     Platform platform_;
     MainWindow window_;
-    std::unique_ptr<QSettings> store_;
+    OpenedStore store_;
     std::unique_ptr<QSettings> programOptions_;
     MessageBoxAlertPresenter messageBoxes_;
     // The six slot bindings and their options: the panel edits them, and the remapper session

@@ -48,8 +48,12 @@ void EditorController::viewDidLoad() {
 
     // A stored list takes the catalogue's place before the table has a model: the table then
     // lays out and measures its rows once.
-    if (std::optional<std::vector<AbilityRecord>> stored = defaults_.mainDic()) {
-        mainDic_ = std::move(*stored);
+    bool listFromStore = catalogueStored_;
+    if (!listFromStore) {
+        if (std::optional<std::vector<AbilityRecord>> stored = defaults_.mainDic()) {
+            mainDic_ = std::move(*stored);
+            listFromStore = true;
+        }
     }
 
     // The controller is the table's data source and delegate. The columns belong to the
@@ -61,7 +65,14 @@ void EditorController::viewDidLoad() {
     connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &EditorController::tableViewSelectionDidChange);
 
-    storeMainDic();
+    // The list is stored at every start. One that the file holds already, as read from it or as
+    // just stored in it, is neither compared nor copied.
+    if (listFromStore && defaults_.fileIsCurrent()) {
+        storedIsWorking_ = true;
+        storeWritten(true);
+    } else {
+        storeMainDic();
+    }
 
     selectRow(tableView(), 0);
     listChanged();
@@ -114,6 +125,7 @@ void EditorController::tableViewSelectionDidChange() {
 
 void EditorController::setKey() {
     const std::size_t row = selectedIndex();
+    keepStoredList();
     assignKey(mainDic_[row], selectedTitle(outlet(outlets_.keysPopup, "keysPopup")));
     // Not a reload and not stored: the list reaches the store at the next start or layout.
     tableModel_.rowChanged(static_cast<int>(row));
@@ -121,6 +133,7 @@ void EditorController::setKey() {
 }
 
 void EditorController::resetToDef() {
+    keepStoredList();
     mainDic_ = all_data();
     reloadData();
     syncKeysPopup();
@@ -128,6 +141,7 @@ void EditorController::resetToDef() {
 }
 
 void EditorController::allQWER() {
+    keepStoredList();
     tarnic::allQWER(mainDic_, gridFollowsKeyboard_ ? gridLettersOf(keyNames_) : qwerLetters());
     reloadData();
     storeMainDic();
@@ -136,6 +150,7 @@ void EditorController::allQWER() {
 }
 
 ImportReport EditorController::importKeys(std::string_view text) {
+    keepStoredList();
     ImportReport report = importCustomKeys(mainDic_, text);
     if (report.holdsCatalogue()) {
         reloadData();
@@ -149,6 +164,14 @@ void EditorController::setGridFollowsKeyboard() {
     gridFollowsKeyboard_ = outlet(outlets_.gridFollowsBox, "gridFollowsBox").isChecked();
     if (options_) {
         options_->setGridFollowsKeyboard(gridFollowsKeyboard_);
+    }
+}
+
+void EditorController::keepStoredList() {
+    if (storedIsWorking_) {
+        storedDic_ = std::make_shared<const std::vector<AbilityRecord>>(mainDic_);
+        handedDic_ = storedDic_;
+        storedIsWorking_ = false;
     }
 }
 
@@ -171,7 +194,7 @@ void EditorController::storeWritten(bool written) {
 void EditorController::showModified() {
     // A key set by hand lives in memory only; the title says so until the list is stored.
     if (QWidget* window = tableView().window()) {
-        window->setWindowModified(mainDic_ != *storedDic_);
+        window->setWindowModified(!storedIsWorking_ && mainDic_ != *storedDic_);
     }
 }
 

@@ -58,6 +58,9 @@ public:
     // Runs once, after the outlets are set: fills the hotkey pop-up, restores and stores the
     // list, selects the first row and restores "Grid follows my keyboard".
     void viewDidLoad();
+    // The store was empty at start and holds the catalogue now, stored by whoever opened it: the
+    // view neither reads the list back nor compares it with the store. Call before viewDidLoad.
+    void storeHoldsCatalogue() { catalogueStored_ = true; }
 
     // The keys' names in the player's layout: the letters of the next grid layout when it follows
     // the keyboard.
@@ -97,6 +100,8 @@ private:
     void listChanged();
     void showModified();
     void storeMainDic();
+    // Before every change of the working list: a copy of what the store holds, if none was made.
+    void keepStoredList();
 
     std::vector<AbilityRecord> mainDic_;
     UserDefaults defaults_;
@@ -106,6 +111,10 @@ private:
     std::shared_ptr<const std::vector<AbilityRecord>> storedDic_ =
         std::make_shared<const std::vector<AbilityRecord>>();
     std::shared_ptr<const std::vector<AbilityRecord>> handedDic_ = storedDic_;
+    // The store holds the working list as it stands, and the two above are not made yet: the
+    // list read at start is copied only when it first changes.
+    bool storedIsWorking_ = false;
+    bool catalogueStored_ = false;
     AbilityTableModel tableModel_;
     EditorOutlets outlets_;
     std::optional<ProgramOptions> options_;

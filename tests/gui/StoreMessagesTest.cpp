@@ -128,6 +128,48 @@ TEST_F(StoreMessages, DeletingABindingInAReadOnlyFolderWarns) {
     EXPECT_TRUE(warned());
 }
 
+TEST_F(StoreMessages, AFirstStartIntoAReadOnlyFolderWarnsAndStoresTheListOnceItCan) {
+    QDir().mkpath(storeFolder());
+    withReadOnlyStoreFolder([this] { launch(); });
+    EXPECT_FALSE(QFile::exists(storePath()));
+    EXPECT_EQ(editor().mainDic(), all_data());
+    EXPECT_TRUE(marked());
+    EXPECT_TRUE(warned());
+    // The next write that works takes the list along.
+    click(*ui().invent2);
+    choose(*ui().inventPopup, "Q");
+    EXPECT_EQ(storedMainDic(), all_data());
+    EXPECT_FALSE(marked());
+    EXPECT_FALSE(warned());
+}
+
+TEST_F(StoreMessages, AStoredListIsNeitherMarkedNorWrittenAgainAtStart) {
+    storeMainDic(laidOut());
+    // A comment that a rewrite would drop.
+    QByteArray handKept = bytesOf(storePath());
+    const qsizetype top = handKept.indexOf("<plist");
+    ASSERT_GT(top, 0);
+    handKept.insert(top, "<!-- kept by hand -->\n");
+    writeFile(storePath(), handKept);
+    launch();
+    EXPECT_EQ(editor().mainDic(), laidOut());
+    EXPECT_FALSE(marked());
+    EXPECT_FALSE(warned());
+    EXPECT_EQ(bytesOf(storePath()), handKept);
+
+    // Choosing the key a row has already leaves the list as stored; another key marks it.
+    clickRow(7);
+    const QString laidKey = QString::fromStdString(laidOut()[7].at(new_hotkey));
+    choose(*ui().keysPopup, laidKey);
+    EXPECT_EQ(editor().mainDic(), laidOut());
+    EXPECT_FALSE(marked());
+    choose(*ui().keysPopup, laidKey == "W" ? "E" : "W");
+    EXPECT_TRUE(marked());
+    click(*ui().resetButton);
+    EXPECT_TRUE(marked());
+    EXPECT_EQ(bytesOf(storePath()), handKept);
+}
+
 TEST_F(StoreMessages, AStoreSetAsideAtStartIsToldOnceWithItsNewName) {
     QDir().mkpath(storeFolder());
     writeFile(storePath(), "this is not a property list \x01\x02");
