@@ -1,5 +1,7 @@
 // Start-up benchmark: the application against a bare Qt program that shows a table of the same
-// size, each started afresh, run by run in turn, under a private Xvfb with no window manager.
+// size, each started afresh, run by run in turn, under a private Xvfb with no window manager. A
+// third program, the application's window over its store without the rest of the application,
+// shows how much of the difference the window and the store format alone make.
 //
 // For every start it measures, from just before the fork:
 //   - the first mapping of one of the child's top-level windows, seen from outside: a watcher on
@@ -12,7 +14,7 @@
 // Then it starts each program a few more times under callgrind and counts the instructions the
 // start executes, the figure that depends neither on the machine's speed nor on its load.
 //
-// Usage: bench_startup [runs] [app executable] [bare executable]
+// Usage: bench_startup [runs] [app executable] [bare executable] [window executable]
 // The machine's load average and the benchmark's nice value (its children inherit it) are
 // printed with the figures: on a shared machine, `nice -n -10 bench_startup` steadies them.
 
@@ -335,6 +337,7 @@ int main(int argc, char** argv) {
     const int runs = argc > 1 ? std::max(1, std::atoi(argv[1])) : 21;
     const std::string app = argc > 2 ? argv[2] : TARNIC_BENCH_APP_PATH;
     const std::string bare = argc > 3 ? argv[3] : TARNIC_BENCH_BARE_PATH;
+    const std::string window = argc > 4 ? argv[4] : TARNIC_BENCH_WINDOW_PATH;
 
     char pattern[] = "/tmp/tarnic-startup-XXXXXX";
     if (mkdtemp(pattern) == nullptr) {
@@ -370,6 +373,7 @@ int main(int argc, char** argv) {
                  {},
                  0,
                  {}},
+                {"window and store alone", {window}, Series::Store::Kept, false, {}, 0, {}},
             };
             int fresh = 0;
             auto startOf = [&](const Series& s) {
@@ -441,7 +445,11 @@ int main(int argc, char** argv) {
                         "window is up).\n");
             std::printf("Both quit once their table's first paint has been handled, before what "
                         "the app keeps for after its first frame (the icon-theme lookup); the "
-                        "+after-paint row quits once that is done too.\n\n");
+                        "+after-paint row quits once that is done too.\n");
+            std::printf("The window-and-store row shows the app's window (every control, in its "
+                        "style) over the list read from the same store by the same reader, with "
+                        "no controller, no X input, no one-copy check: the part of the app's "
+                        "start that its window and its store format alone demand.\n\n");
             std::printf("%-26s | %-23s | %-23s | %-23s | %-8s | %-13s | %s\n", "",
                         "start to first map, ms", "whole process, ms", "peak RSS, MiB", "cpu, ms",
                         "instructions", "failed");
