@@ -9,6 +9,9 @@
 #include <QUtf8StringView>
 
 #include <optional>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace tarnic {
 
@@ -33,7 +36,29 @@ bool isDictionary(const QVariant& value) {
     return type == QMetaType::QVariantMap || type == QMetaType::QVariantHash;
 }
 
-std::optional<AbilityRecord> recordFromStored(const QVariant& value, WrongType& wrong) {
+// The same few keys come back in every record: each is turned into UTF-8 once.
+class KeyBytes {
+public:
+    std::string of(const QString& key) {
+        for (const auto& [text, bytes] : seen_) {
+            if (text == key) {
+                return bytes;
+            }
+        }
+        std::string bytes = utf8Of(key);
+        if (seen_.size() < kKept) {
+            seen_.emplace_back(key, bytes);
+        }
+        return bytes;
+    }
+
+private:
+    static constexpr std::size_t kKept = 16;
+    std::vector<std::pair<QString, std::string>> seen_;
+};
+
+std::optional<AbilityRecord> recordFromStored(const QVariant& value, KeyBytes& keys,
+                                              WrongType& wrong) {
     if (!isDictionary(value)) {
         wrong.found = "array containing " + storedTypeName(value);
         return std::nullopt;
@@ -48,7 +73,7 @@ std::optional<AbilityRecord> recordFromStored(const QVariant& value, WrongType& 
         }
         // The map is in key order already, which the record keeps too for keys in ASCII: each
         // goes in at the end without a search.
-        record.emplace_hint(record.end(), utf8Of(it.key()),
+        record.emplace_hint(record.end(), keys.of(it.key()),
                             utf8Of(*static_cast<const QString*>(it.value().constData())));
     }
     return record;
@@ -95,8 +120,9 @@ std::variant<std::vector<AbilityRecord>, WrongType> abilityListFromStored(const 
     std::vector<AbilityRecord> list;
     list.reserve(static_cast<std::size_t>(items.size()));
     WrongType wrong;
+    KeyBytes keys;
     for (const QVariant& item : items) {
-        std::optional<AbilityRecord> record = recordFromStored(item, wrong);
+        std::optional<AbilityRecord> record = recordFromStored(item, keys, wrong);
         if (!record) {
             return wrong;
         }

@@ -47,14 +47,18 @@ TEST(StoredTypes, AbilityListKeepsMissingAndEmptyKeysApart) {
     EXPECT_EQ(back[2].at("name parent"), "");
 }
 
-TEST(StoredTypes, AbilityListKeepsTextBeyondAsciiByteForByte) {
+TEST(StoredTypes, AbilityListKeepsTextBeyondAsciiAndManyKeysByteForByte) {
     // Keys in an order of their own beyond ASCII (a private-use character sorts before an emoji
     // in UTF-16 and after it in UTF-8), texts in several scripts and a long one.
     const AbilityRecord record{{"name", "Sort\u00e9e \u2714\ufe0e"},
                                {"\ue000 private", "\U0001F600"},
                                {"\U0001F600 emoji", "\u65e5\u672c\u8a9e"},
                                {"for edit", std::string(5000, 'x') + "\u00fc"}};
-    const std::vector<AbilityRecord> list{record, record};
+    AbilityRecord wide = record;
+    for (int k = 0; k < 20; ++k) {
+        wide.emplace("key " + std::to_string(k), "text " + std::to_string(k));
+    }
+    const std::vector<AbilityRecord> list{record, wide, record, wide};
     auto read = abilityListFromStored(abilityListToStored(list));
     ASSERT_TRUE(std::holds_alternative<std::vector<AbilityRecord>>(read));
     EXPECT_EQ(std::get<std::vector<AbilityRecord>>(read), list);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <string_view>
 
 namespace tarnic {
 
@@ -38,12 +39,16 @@ std::string keyInForce(const AbilityRecord& record) {
 }
 
 std::vector<Clash> findClashes(const std::vector<AbilityRecord>& list) {
-    // Only abilities on one key can clash, so compare within each key's group.
-    std::map<std::string, std::vector<std::size_t>> byKey;
+    // Only abilities on one key can clash, so compare within each key's group; and only where
+    // the player chose one of the two keys, so a group of the game's own keys is passed over.
+    std::map<std::string_view, std::vector<std::size_t>> byKey;
+    std::vector<bool> chosen(list.size());
     for (std::size_t i = 0; i < list.size(); ++i) {
-        std::string key = keyInForce(list[i]);
-        if (!key.empty()) {
-            byKey[std::move(key)].push_back(i);
+        chosen[i] = keyIsChosen(list[i]);
+        const std::string* key =
+            chosen[i] ? optionalField(list[i], new_hotkey) : optionalField(list[i], def_hotkey);
+        if (key != nullptr && !key->empty()) {
+            byKey[*key].push_back(i);
         }
     }
     std::vector<Clash> clashes;
@@ -52,8 +57,7 @@ std::vector<Clash> findClashes(const std::vector<AbilityRecord>& list) {
             for (std::size_t b = a + 1; b < positions.size(); ++b) {
                 const std::size_t first = positions[a];
                 const std::size_t second = positions[b];
-                if ((keyIsChosen(list[first]) || keyIsChosen(list[second])) &&
-                    oneUnitHasBoth(list, first, second)) {
+                if ((chosen[first] || chosen[second]) && oneUnitHasBoth(list, first, second)) {
                     clashes.push_back({first, second});
                 }
             }
