@@ -86,10 +86,11 @@ keypad_given_back() {
 keypad_claimed
 
 if [ "$mode" = up ] || [ "$mode" = quit ]; then
-    # The gate has passed once the site has served the version file and the application is
-    # still there.
+    # The gate has passed once the site has served the version file to the application (the
+    # server names the process behind each request; the readiness probe above fetched the same
+    # file) and the application is still there.
     deadline=$((SECONDS + 30))
-    until grep -q 'GET /tn11.plist HTTP/1.1" 200' "$work/site.log"; do
+    until grep -q "GET /tn11.plist HTTP/1.1\" 200 .* pid=$APP_PID\$" "$work/site.log"; do
         [ $SECONDS -lt $deadline ] || fail "the application did not fetch the version file"
         sleep 0.1
     done
