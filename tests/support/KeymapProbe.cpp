@@ -1,5 +1,7 @@
 #include "support/KeymapProbe.h"
 
+#include "platform/x11/XkbExtension.h"
+
 #include <X11/XKBlib.h>
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
@@ -8,14 +10,11 @@ namespace tarnic::test {
 
 KeymapProbe::KeymapProbe(const QString& display)
     : display_(XOpenDisplay(display.toLocal8Bit().constData())) {
-    int opcode = 0;
-    int eventBase = 0;
-    int errorBase = 0;
-    int major = XkbMajorVersion;
-    int minor = XkbMinorVersion;
-    if (display_ != nullptr &&
-        XkbQueryExtension(display_, &opcode, &eventBase, &errorBase, &major, &minor)) {
-        xkbEventBase_ = eventBase;
+    if (display_ == nullptr) {
+        return;
+    }
+    if (const std::optional<x11::XkbExtension> xkb = x11::queryXkb(display_)) {
+        xkbEventBase_ = xkb->eventBase;
     }
 }
 

@@ -1,5 +1,7 @@
 #include "support/KeymapWatcher.h"
 
+#include "platform/x11/XkbExtension.h"
+
 #include <X11/XKBlib.h>
 #include <X11/Xlib.h>
 #include <X11/extensions/XInput2.h>
@@ -10,16 +12,12 @@ namespace tarnic::test {
 
 KeymapWatcher::KeymapWatcher(const QString& display)
     : display_(XOpenDisplay(display.toLocal8Bit().constData())) {
-    int opcode = 0;
-    int eventBase = 0;
-    int errorBase = 0;
-    int major = XkbMajorVersion;
-    int minor = XkbMinorVersion;
-    if (display_ != nullptr &&
-        XkbQueryExtension(display_, &opcode, &eventBase, &errorBase, &major, &minor)) {
-        xkbEventBase_ = eventBase;
-        const unsigned long events = XkbNewKeyboardNotifyMask | XkbMapNotifyMask;
-        XkbSelectEvents(display_, XkbUseCoreKbd, events, events);
+    if (display_ == nullptr) {
+        return;
+    }
+    if (const std::optional<x11::XkbExtension> xkb = x11::queryXkb(display_)) {
+        xkbEventBase_ = xkb->eventBase;
+        x11::selectKeymapNotifications(display_);
         XSync(display_, False);
     }
 }

@@ -3,6 +3,7 @@
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/X11EventPump.h"
 #include "platform/x11/X11KeyCodes.h"
+#include "platform/x11/XkbExtension.h"
 
 #include <QThread>
 
@@ -47,17 +48,10 @@ X11KeyLabels::X11KeyLabels(std::shared_ptr<X11Connection> connection)
     // request here is made under the connection's lock.
     const std::lock_guard lock(*connection_->lock());
     Display* display = connection_->display();
-    int opcode = 0;
-    int eventBase = 0;
-    int errorBase = 0;
-    int major = XkbMajorVersion;
-    int minor = XkbMinorVersion;
-    if (XkbQueryExtension(display, &opcode, &eventBase, &errorBase, &major, &minor)) {
-        xkbEventBase_ = eventBase;
-        // Only the bits named here change: the keypad keycodes select the same two events, and
-        // the selections add up.
-        const unsigned long maps = XkbNewKeyboardNotifyMask | XkbMapNotifyMask;
-        XkbSelectEvents(display, XkbUseCoreKbd, maps, maps);
+    if (const std::optional<XkbExtension> xkb = queryXkb(display)) {
+        xkbEventBase_ = xkb->eventBase;
+        // The keypad keycodes select the same two events; the selections add up.
+        selectKeymapNotifications(display);
         XkbSelectEventDetails(display, XkbUseCoreKbd, XkbStateNotify, XkbGroupStateMask,
                               XkbGroupStateMask);
         reread();

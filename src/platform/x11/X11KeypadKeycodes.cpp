@@ -5,6 +5,7 @@
 #include "core/remapper/SlotKeys.h"
 #include "platform/x11/KeypadClaimPlanner.h"
 #include "platform/x11/X11KeymapWriter.h"
+#include "platform/x11/XkbExtension.h"
 
 #include <X11/XKBlib.h>
 #include <X11/Xatom.h>
@@ -94,16 +95,10 @@ X11KeypadKeycodes::X11KeypadKeycodes(std::shared_ptr<X11Connection> connection)
     : connection_(std::move(connection)) {
     Display* display = connection_->display();
     propertyAtom_ = XInternAtom(display, kPropertyName, False);
-    int opcode = 0;
-    int eventBase = 0;
-    int errorBase = 0;
-    int major = XkbMajorVersion;
-    int minor = XkbMinorVersion;
-    if (XkbQueryExtension(display, &opcode, &eventBase, &errorBase, &major, &minor)) {
-        xkbOpcode_ = opcode;
-        xkbEventBase_ = eventBase;
-        const unsigned long events = XkbNewKeyboardNotifyMask | XkbMapNotifyMask;
-        XkbSelectEvents(display, XkbUseCoreKbd, events, events);
+    if (const std::optional<XkbExtension> xkb = queryXkb(display)) {
+        xkbOpcode_ = xkb->opcode;
+        xkbEventBase_ = xkb->eventBase;
+        selectKeymapNotifications(display);
     }
     claim();
 
