@@ -3,6 +3,7 @@
 #include "core/editor/ClashRule.h"
 #include "gui/GuiResources.h"
 #include "gui/Pictures.h"
+#include "gui/PopUpTitles.h"
 
 #include <QApplication>
 #include <QPixmap>
@@ -105,7 +106,7 @@ QVariant AbilityTableModel::clashMark(int row, int role) const {
                  QStringLiteral(" and ") + names.last();
     }
     return QStringLiteral("%1 is also the key of %2.")
-        .arg(QString::fromStdString(keyInForce(list_[at])), joined);
+        .arg(toQString(keyInForce(list_[at])), joined);
 }
 
 int AbilityTableModel::rowCount(const QModelIndex& parent) const {

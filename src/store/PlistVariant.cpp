@@ -1,6 +1,7 @@
 #include "store/PlistVariant.h"
 
 #include "store/IntegerValue.h"
+#include "store/RepeatedKeys.h"
 
 #include <QDateTime>
 #include <QStringList>
@@ -10,8 +11,7 @@
 #include <cstdlib>
 #include <limits>
 #include <string>
-#include <utility>
-#include <vector>
+#include <string_view>
 
 namespace tarnic {
 
@@ -83,27 +83,7 @@ plist_t dictNode(const QVariantHash& hash) {
     return dict;
 }
 
-// The keys of a list of dictionaries repeat from one dictionary to the next: each is made once
-// and shared by every map that has it.
-class KeyTexts {
-public:
-    QString text(const char* key) {
-        for (const auto& [bytes, text] : seen_) {
-            if (bytes == key) {
-                return text;
-            }
-        }
-        QString text = QString::fromUtf8(key);
-        if (seen_.size() < kKept) {
-            seen_.emplace_back(key, text);
-        }
-        return text;
-    }
-
-private:
-    static constexpr std::size_t kKept = 16;
-    std::vector<std::pair<std::string, QString>> seen_;
-};
+using KeyTexts = RepeatedKeys<std::string, QString>;
 
 QVariant variantOf(plist_t node, KeyTexts& keys);
 
@@ -131,15 +111,13 @@ QVariant mapFromDict(plist_t dict, KeyTexts& keys) {
         if (key == nullptr) {
             break;
         }
-        // Written in key order, most often: each key then goes in at the end without a search.
-        const QString text = keys.text(key);
+        const QString text = keys.of(std::string_view(key), [](std::string_view bytes) {
+            return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+        });
         std::free(key);
-        QVariant item = variantOf(value, keys);
-        if (!map.isEmpty() && (map.lastKey() < text)) {
-            map.insert(map.cend(), text, std::move(item));
-        } else {
-            map.insert(text, std::move(item));
-        }
+        // Written in key order, most often: each key then goes in at the end without a search
+        // (a hint that is wrong only costs the search).
+        map.insert(map.cend(), text, variantOf(value, keys));
     }
     std::free(it);
     return map;

@@ -2,6 +2,7 @@
 
 #include "core/bindings/BindingArray.h"
 #include "store/IntegerValue.h"
+#include "store/RepeatedKeys.h"
 
 #include <QAnyStringView>
 #include <QStringEncoder>
@@ -10,7 +11,6 @@
 
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace tarnic {
@@ -37,25 +37,7 @@ bool isDictionary(const QVariant& value) {
 }
 
 // The same few keys come back in every record: each is turned into UTF-8 once.
-class KeyBytes {
-public:
-    std::string of(const QString& key) {
-        for (const auto& [text, bytes] : seen_) {
-            if (text == key) {
-                return bytes;
-            }
-        }
-        std::string bytes = utf8Of(key);
-        if (seen_.size() < kKept) {
-            seen_.emplace_back(key, bytes);
-        }
-        return bytes;
-    }
-
-private:
-    static constexpr std::size_t kKept = 16;
-    std::vector<std::pair<QString, std::string>> seen_;
-};
+using KeyBytes = RepeatedKeys<QString, std::string>;
 
 std::optional<AbilityRecord> recordFromStored(const QVariant& value, KeyBytes& keys,
                                               WrongType& wrong) {
@@ -73,7 +55,7 @@ std::optional<AbilityRecord> recordFromStored(const QVariant& value, KeyBytes& k
         }
         // The map is in key order already, which the record keeps too for keys in ASCII: each
         // goes in at the end without a search.
-        record.emplace_hint(record.end(), keys.of(it.key()),
+        record.emplace_hint(record.end(), keys.of(it.key(), utf8Of),
                             utf8Of(*static_cast<const QString*>(it.value().constData())));
     }
     return record;

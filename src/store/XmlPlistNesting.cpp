@@ -44,36 +44,18 @@ class Lexer {
 public:
     explicit Lexer(std::string_view text) : text_(text) {}
 
-    // The first of `stops` at or after `from`, quoted strings passed over; kNone if none.
-    std::size_t findOutsideQuotes(std::size_t from, std::string_view stops) const {
+    // The first `stop` or `otherStop` at or after `from`, quoted strings passed over; kNone if
+    // none.
+    std::size_t findOutsideQuotes(std::size_t from, char stop, char otherStop) const {
         for (std::size_t at = from; at < text_.size(); ++at) {
-            if (text_[at] == '"') {
+            const char c = text_[at];
+            if (c == '"') {
                 at = text_.find('"', at + 1);
                 if (at == kNone) {
                     return kNone;
                 }
-            } else if (stops.find(text_[at]) != kNone) {
+            } else if (c == stop || c == otherStop) {
                 return at;
-            }
-        }
-        return kNone;
-    }
-    // The end of a tag: the first '>' or '<' at or after `from`, quoted strings passed over;
-    // kNone if none. As findOutsideQuotes(from, "<>"), one character at a time.
-    std::size_t endOfTag(std::size_t from) const {
-        for (std::size_t at = from; at < text_.size(); ++at) {
-            switch (text_[at]) {
-            case '"':
-                at = text_.find('"', at + 1);
-                if (at == kNone) {
-                    return kNone;
-                }
-                break;
-            case '<':
-            case '>':
-                return at;
-            default:
-                break;
             }
         }
         return kNone;
@@ -109,7 +91,7 @@ public:
             return past(text_.find("]]>", at + 9), 3);
         }
         if (rest.starts_with("<!DOCTYPE")) {
-            const std::size_t end = findOutsideQuotes(at + 9, "[>");
+            const std::size_t end = findOutsideQuotes(at + 9, '[', '>');
             if (end == kNone || text_[end] == '>') {
                 return past(end, 1);
             }
@@ -146,7 +128,7 @@ bool xmlPlistNestsWithin(std::string_view text, int maxDepth) {
             break;
         }
         const std::string_view name = text.substr(nameStart, nameEnd - nameStart);
-        const std::size_t end = lexer.endOfTag(nameEnd);
+        const std::size_t end = lexer.findOutsideQuotes(nameEnd, '<', '>');
         if (end == kNone) {
             break;
         }

@@ -30,12 +30,12 @@ bool keyIsChosen(const AbilityRecord& record) {
     return chosen != nullptr && !chosen->empty();
 }
 
-std::string keyInForce(const AbilityRecord& record) {
+std::string_view keyInForce(const AbilityRecord& record) {
     if (keyIsChosen(record)) {
         return *optionalField(record, new_hotkey);
     }
     const std::string* fallback = optionalField(record, def_hotkey);
-    return fallback != nullptr ? *fallback : std::string();
+    return fallback != nullptr ? std::string_view(*fallback) : std::string_view();
 }
 
 std::vector<Clash> findClashes(const std::vector<AbilityRecord>& list) {
@@ -45,10 +45,9 @@ std::vector<Clash> findClashes(const std::vector<AbilityRecord>& list) {
     std::vector<bool> chosen(list.size());
     for (std::size_t i = 0; i < list.size(); ++i) {
         chosen[i] = keyIsChosen(list[i]);
-        const std::string* key =
-            chosen[i] ? optionalField(list[i], new_hotkey) : optionalField(list[i], def_hotkey);
-        if (key != nullptr && !key->empty()) {
-            byKey[*key].push_back(i);
+        const std::string_view key = keyInForce(list[i]);
+        if (!key.empty()) {
+            byKey[key].push_back(i);
         }
     }
     std::vector<Clash> clashes;

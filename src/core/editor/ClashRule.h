@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tarnic {
@@ -14,8 +15,8 @@ namespace tarnic {
 inline constexpr std::size_t kGeneralCommandCount = 6;
 
 // The key an ability uses in the game: the player's choice, else the default key. "" when it
-// has neither.
-std::string keyInForce(const AbilityRecord& record);
+// has neither. A view into the record.
+std::string_view keyInForce(const AbilityRecord& record);
 
 // One clash: two abilities that one unit has and that use the same key. `first` < `second`,
 // both list positions.
